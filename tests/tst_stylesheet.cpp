@@ -1,0 +1,118 @@
+#include "support/pointer.h"
+#include "support/testcase.h"
+
+#include <orvanecontrols/internal/stylesheet.h>
+
+#include <QLabel>
+#include <QStackedWidget>
+
+class TestStyleSheet : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void colorTextIsTheColorName_data()
+    {
+        QTest::addColumn<QColor>("color");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("opaque") << QColor(255, 0, 0) << "#ff0000";
+        QTest::newRow("grey") << QColor(69, 69, 69) << "#454545";
+        QTest::newRow("half transparent") << QColor(255, 0, 0, 128) << "#80ff0000";
+        QTest::newRow("almost opaque") << QColor(1, 2, 3, 254) << "#fe010203";
+        QTest::newRow("fully transparent") << QColor(255, 255, 255, 0) << "#00ffffff";
+        QTest::newRow("never set") << QColor() << "#000000";
+        QTest::newRow("out of range") << QColor(300, 0, 0) << "#000000";
+        QTest::newRow("unreadable name") << QColor("no colour") << "#000000";
+        QTest::newRow("hue and saturation") << QColor::fromHsv(120, 255, 255) << "#00ff00";
+    }
+
+    void colorTextIsTheColorName()
+    {
+        QFETCH(QColor, color);
+        QFETCH(QString, expected);
+        QCOMPARE(orvane::colorText(color), expected);
+    }
+
+    void fontColorFragmentNamesColorAndFont()
+    {
+        QCOMPARE(orvane::fontColorFragment(QColor(255, 0, 0)),
+                 QStringLiteral("color:#ff0000;font: SimSun Arial;"));
+    }
+
+    // The first two are how Qt loses the second sheet without the help of applyStyleSheet().
+    void sheetReplacedBeforeTheFirstShowIsPainted_data()
+    {
+        QTest::addColumn<bool>("stacked");
+        QTest::addColumn<bool>("childAsksFirst");
+        QTest::newRow("label in a stacked widget") << true << true;
+        QTest::newRow("label in a widget") << false << true;
+        QTest::newRow("silent label in a widget") << false << false;
+    }
+
+    void sheetReplacedBeforeTheFirstShowIsPainted()
+    {
+        QFETCH(bool, stacked);
+        QFETCH(bool, childAsksFirst);
+        QScopedPointer<QWidget> container(stacked ? new QStackedWidget : new QWidget);
+        auto *label = new QLabel(container.data());
+        label->setFixedSize(40, 40);
+        if (auto *stack = qobject_cast<QStackedWidget *>(container.data()))
+            stack->addWidget(label);
+        const QString sheet = QStringLiteral("QLabel{background:%1;}");
+
+        orvane::applyStyleSheet(container.data(), sheet.arg("#ff0000"));
+        if (childAsksFirst)
+            label->style()->styleHint(QStyle::SH_EtchDisabledText, nullptr, label);
+        orvane::applyStyleSheet(container.data(), sheet.arg("#00ff00"));
+        QVERIFY(pointer::showAndWait(container.data()));
+        QCOMPARE(pointer::colorAt(label, QPoint(20, 20)), QColor(0, 255, 0));
+
+        orvane::applyStyleSheet(container.data(), sheet.arg("#0000ff"));
+        QCOMPARE(pointer::colorAt(label, QPoint(20, 20)), QColor(0, 0, 255));
+    }
+
+    void sheetOfAWidgetThatDiedUnshownIsNotInherited()
+    {
+        // Qt keeps parsed sheets by address, and the next widget often gets the same one.
+        alignas(QWidget) unsigned char storage[sizeof(QWidget)];
+        auto build = [&storage](const char *color) {
+            auto *container = new (storage) QWidget;
+            auto *label = new QLabel(container);
+            label->setFixedSize(40, 40);
+            orvane::applyStyleSheet(container,
+                                    QStringLiteral("QLabel{background:%1;}").arg(color));
+            label->style()->styleHint(QStyle::SH_EtchDisabledText, nullptr, label);
+            return container;
+        };
+        build("#ff0000")->~QWidget();
+        QWidget *second = build("#00ff00");
+        QVERIFY(pointer::showAndWait(second));
+        QCOMPARE(pointer::colorAt(second->findChild<QLabel *>(), QPoint(20, 20)),
+                 QColor(0, 255, 0));
+        second->~QWidget();
+    }
+
+    void equalSheetIsNotAppliedAgain()
+    {
+        struct Counter : QWidget
+        {
+            int changes = 0;
+            void changeEvent(QEvent *event) override
+            {
+                changes += event->type() == QEvent::StyleChange;
+                QWidget::changeEvent(event);
+            }
+        };
+        Counter widget;
+        orvane::applyStyleSheet(&widget, "QWidget{color:#ff0000;}");
+        QVERIFY(pointer::showAndWait(&widget));
+        widget.changes = 0;
+        orvane::applyStyleSheet(&widget, "QWidget{color:#ff0000;}");
+        QCOMPARE(widget.changes, 0);
+        orvane::applyStyleSheet(&widget, "QWidget{color:#00ff00;}");
+        QCOMPARE(widget.changes, 1);
+    }
+};
+
+ORVANE_TEST_MAIN(TestStyleSheet)
+#include "tst_stylesheet.moc"
