@@ -1,0 +1,43 @@
+#ifndef ORVANE_INTERNAL_COMMANDLOOK_H
+#define ORVANE_INTERNAL_COMMANDLOOK_H
+
+#include <QColor>
+#include <QString>
+
+namespace orvane
+{
+
+/// The look of a command button: a filled ground and a text colour per state, and round corners.
+/// A new one is unset: invalid colours and no radius.
+struct CommandLook {
+    QColor normalBackground;
+    QColor hoverBackground;
+    QColor pressedBackground;
+    QColor disabledBackground;
+    QColor normalFontColor;
+    QColor hoverFontColor;
+    QColor pressedFontColor;
+    QColor disabledFontColor;
+    int borderRadius = 0;
+};
+
+/// The accented look of a main action.
+CommandLook activatedCommandLook();
+/// The grey look of a secondary action.
+CommandLook notActivatedCommandLook();
+
+/// The words of a sheet's pseudo-states. They are spelled differently from look to look.
+struct StateWords {
+    QString hover;
+    QString pressed;
+    QString disabled;
+};
+
+/// Composes the sheet of a command button: one rule of \a widgetType for its normal state and one
+/// for each of \a states. \a font is what stands behind "font:", and the radius has no unit.
+QString commandSheet(const QString &widgetType, const CommandLook &look, const StateWords &states,
+                     const QString &font);
+
+} // namespace orvane
+
+#endif // ORVANE_INTERNAL_COMMANDLOOK_H

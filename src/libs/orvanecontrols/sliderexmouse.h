@@ -1,0 +1,35 @@
+#ifndef SLIDEREXMOUSE_H
+#define SLIDEREXMOUSE_H
+
+#include "sliderex.h"
+
+/**
+ * A slider that jumps to the point where the left mouse button is released.
+ *
+ * The point is always taken along the x axis, for a vertical slider too. Page and single step are
+ * 0, so neither keys nor clicks on the groove move the slider by steps. The release goes no
+ * further: QAbstractSlider::sliderReleased() is never emitted and isSliderDown() stays true after
+ * the handle was dragged.
+ *
+ * sliderMouseRealse() is a signal of this class, beside the one of the same name in SliderEx, which
+ * a SliderExMouse never emits. Connect to &SliderExMouse::sliderMouseRealse or to
+ * SIGNAL(sliderMouseRealse()), which finds the signal of this class; &SliderEx::sliderMouseRealse
+ * receives nothing.
+ */
+class ORVANECONTROLS_EXPORT SliderExMouse : public SliderEx
+{
+    Q_OBJECT
+
+public:
+    /// Builds a slider without steps, owned by \a parent, with the default look of \a orientation.
+    SliderExMouse(QWidget *parent, Qt::Orientation orientation);
+
+Q_SIGNALS:
+    /// A release of the left button has set a new value.
+    void sliderMouseRealse();
+
+protected:
+    void mouseReleaseEvent(QMouseEvent *event) override;
+};
+
+#endif // SLIDEREXMOUSE_H
