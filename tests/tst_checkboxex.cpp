@@ -89,26 +89,20 @@ private Q_SLOTS:
             << Set([](CheckBoxEx &b) { b.setHoverFontColor(Qt::red); }) << defaultSheet;
         QTest::newRow("checked colour is only stored")
             << Set([](CheckBoxEx &b) { b.setCheckedColor(Qt::red); }) << defaultSheet;
-        QTest::newRow("checked colour shows with the next setter")
-            << Set([](CheckBoxEx &b) {
-                   b.setCheckedColor(Qt::red);
-                   b.setSpacing(5);
-               })
-            << sheet("5", "", "#707070", "15", "15", "#ff0000");
-        QTest::newRow("hover font colour recomposes")
-            << Set([](CheckBoxEx &b) {
-                   b.setCheckedColor(Qt::red);
-                   b.setHoverFontColor(Qt::green);
-               })
-            << sheet("5", "", "#707070", "15", "15", "#ff0000");
-        QTest::newRow("initStyle goes back to the defaults")
-            << Set([](CheckBoxEx &b) {
-                   b.setFontColor(Qt::red);
-                   b.setCheckedColor(Qt::red);
-                   b.setIndicatorWidth(99);
-                   b.initStyle();
-               })
-            << defaultSheet;
+        QTest::newRow("checked colour shows with the next setter") << Set([](CheckBoxEx &b) {
+            b.setCheckedColor(Qt::red);
+            b.setSpacing(5);
+        }) << sheet("5", "", "#707070", "15", "15", "#ff0000");
+        QTest::newRow("hover font colour recomposes") << Set([](CheckBoxEx &b) {
+            b.setCheckedColor(Qt::red);
+            b.setHoverFontColor(Qt::green);
+        }) << sheet("5", "", "#707070", "15", "15", "#ff0000");
+        QTest::newRow("initStyle goes back to the defaults") << Set([](CheckBoxEx &b) {
+            b.setFontColor(Qt::red);
+            b.setCheckedColor(Qt::red);
+            b.setIndicatorWidth(99);
+            b.initStyle();
+        }) << defaultSheet;
     }
 
     void settersRecompose()
@@ -224,8 +218,7 @@ private Q_SLOTS:
 
     void pressAndReleaseRepaint()
     {
-        struct Counting : CheckBoxEx
-        {
+        struct Counting : CheckBoxEx {
             int paints = 0;
             void paintEvent(QPaintEvent *event) override
             {

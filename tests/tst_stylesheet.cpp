@@ -79,8 +79,7 @@ private Q_SLOTS:
             auto *container = new (storage) QWidget;
             auto *label = new QLabel(container);
             label->setFixedSize(40, 40);
-            orvane::applyStyleSheet(container,
-                                    QStringLiteral("QLabel{background:%1;}").arg(color));
+            orvane::applyStyleSheet(container, QStringLiteral("QLabel{background:%1;}").arg(color));
             label->style()->styleHint(QStyle::SH_EtchDisabledText, nullptr, label);
             return container;
         };
@@ -94,8 +93,7 @@ private Q_SLOTS:
 
     void equalSheetIsNotAppliedAgain()
     {
-        struct Counter : QWidget
-        {
+        struct Counter : QWidget {
             int changes = 0;
             void changeEvent(QEvent *event) override
             {
