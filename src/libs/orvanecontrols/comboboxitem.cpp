@@ -11,7 +11,7 @@ ComboboxItem::ComboboxItem(QWidget *parent, QPixmap pixmap, QString text, int in
     , m_imageLabel(new QLabel(this))
     , m_textLabel(new LabelEx(this))
     , m_layout(new QHBoxLayout(this))
-    , m_pixmap(std::move(pixmap))
+    , m_pixmap(pixmap)
     , m_index(index)
     , m_text(std::move(text))
     , m_fontColor(210, 210, 210)

@@ -3,6 +3,8 @@
 #include "internal/spinboxlook.h"
 #include "internal/stylesheet.h"
 
+#include <QLocale>
+
 DoubleSpinBoxEx::DoubleSpinBoxEx(QWidget *parent)
     : QDoubleSpinBox(parent)
 {

@@ -14,7 +14,8 @@
  * The sheet's type selector is the name of this class: it reaches derived classes too, but no
  * other spin box. The box has no signals of its own: connect to QDoubleSpinBox::valueChanged().
  *
- * Numbers have a decimal point in every locale. A text is read as a plain number, so a box with a prefix or a suffix reads every typed text as 0.
+ * Numbers have a decimal point in every locale. A text is read as a plain number, so a box with a
+ * prefix or a suffix reads every typed text as 0.
  */
 class ORVANECONTROLS_EXPORT DoubleSpinBoxEx : public QDoubleSpinBox
 {

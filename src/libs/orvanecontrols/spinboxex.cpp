@@ -160,8 +160,8 @@ void SpinBoxEx::mouseReleaseEvent(QMouseEvent *event)
 
 void SpinBoxEx::focusOutEvent(QFocusEvent *event)
 {
-    // Without the base handler a typed text is not taken over; hosts rely on the box keeping out
-    // of the way of the keyboard from here on.
+    // Hosts rely on the box keeping out of the way of the keyboard from its first loss on, and on
+    // editingFinished() not being emitted then.
     if (m_focusOutEvent)
         QAbstractSpinBox::focusOutEvent(event);
     else
