@@ -5,6 +5,7 @@
 
 #include <QLabel>
 #include <QStackedWidget>
+#include <QStyle>
 
 class TestStyleSheet : public TestCase
 {
@@ -77,12 +78,15 @@ private Q_SLOTS:
         alignas(QWidget) unsigned char storage[sizeof(QWidget)];
         auto build = [&storage](const char *color) {
             auto *container = new (storage) QWidget;
+            orvane::applyStyleSheet(container,
+                                    QStringLiteral("QLabel{background:%1;}").arg(color));
             auto *label = new QLabel(container);
             label->setFixedSize(40, 40);
-            orvane::applyStyleSheet(container, QStringLiteral("QLabel{background:%1;}").arg(color));
             label->style()->styleHint(QStyle::SH_EtchDisabledText, nullptr, label);
             return container;
         };
+        QWidget other; // as long as any sheet is in force, Qt keeps what it has parsed
+        orvane::applyStyleSheet(&other, "QWidget{color:#ff0000;}");
         build("#ff0000")->~QWidget();
         QWidget *second = build("#00ff00");
         QVERIFY(pointer::showAndWait(second));

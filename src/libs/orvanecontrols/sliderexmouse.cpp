@@ -13,6 +13,15 @@ SliderExMouse::SliderExMouse(QWidget *parent, Qt::Orientation orientation)
     setSingleStep(0);
 }
 
+void SliderExMouse::mouseMoveEvent(QMouseEvent *event)
+{
+    // QSlider never sees the release and would go on dragging its handle with no button down.
+    if (event->buttons() & Qt::LeftButton)
+        SliderEx::mouseMoveEvent(event);
+    else
+        event->ignore();
+}
+
 void SliderExMouse::mouseReleaseEvent(QMouseEvent *event)
 {
     // The press on the groove began to repeat a page step, which only the base's handler would end.

@@ -29,6 +29,7 @@ Q_SIGNALS:
     void sliderMouseRealse();
 
 protected:
+    void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
 };
 
