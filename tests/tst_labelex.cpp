@@ -189,17 +189,28 @@ private Q_SLOTS:
         label.resize(100, 30);
         QVERIFY(pointer::showAndWait(&label));
         QSignalSpy clicked(&label, &LabelEx::signal_mouseclicked);
-        QTest::mouseDClick(&label, Qt::LeftButton);
+        QTest::mouseClick(&label, Qt::LeftButton);
+        QCOMPARE(clicked.count(), 1);
+        QTest::mouseDClick(&label, Qt::LeftButton); // what the second press arrives as
         QCOMPARE(clicked.count(), 2);
     }
 
     void disabledLabelDoesNotClick()
     {
         LabelEx label;
-        label.setEnabled(false);
+        label.resize(100, 30);
+        QVERIFY(pointer::showAndWait(&label));
         QSignalSpy clicked(&label, &LabelEx::signal_mouseclicked);
-        QTest::mousePress(&label, Qt::LeftButton);
+        const auto press = [&label] {
+            QTest::mousePress(label.windowHandle(), Qt::LeftButton, Qt::NoModifier, {50, 15});
+            QTest::mouseRelease(label.windowHandle(), Qt::LeftButton, Qt::NoModifier, {50, 15});
+        };
+        label.setEnabled(false);
+        press();
         QCOMPARE(clicked.count(), 0);
+        label.setEnabled(true);
+        press();
+        QCOMPARE(clicked.count(), 1);
     }
 
     void enterAndLeaveAreReportedOnceEach()
@@ -227,10 +238,15 @@ private Q_SLOTS:
         LabelEx label;
         label.resize(100, 30);
         QVERIFY(pointer::showAndWait(&label));
-        pointer::moveTo(&label);
+        pointer::moveAway(&label);
+        QSignalSpy entered(&label, &LabelEx::signal_mouseenter);
         QSignalSpy left(&label, &LabelEx::signal_mouseleave);
+        QCursor::setPos(label.mapToGlobal(label.rect().center()));
+        QTRY_COMPARE(entered.count(), 1);
+        QCOMPARE(left.count(), 0);
         pointer::moveAway(&label);
         QTRY_COMPARE(left.count(), 1);
+        QCOMPARE(entered.count(), 1);
     }
 
     void linksAreActivated()

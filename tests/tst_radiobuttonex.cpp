@@ -264,6 +264,7 @@ private Q_SLOTS:
         button.setGeometry(20, 20, 120, 30);
         button.setAutoExclusive(false);
         QVERIFY(pointer::showAndWait(&panel));
+        pointer::moveTo(&panel, QPoint(5, 5));
         QMap<QString, QImage> pictures;
         for (bool hovered : {false, true}) {
             if (hovered)

@@ -20,7 +20,10 @@ void moveTo(QWidget *widget, QPoint position)
     if (position == QPoint(-1, -1))
         position = widget->rect().center();
     QWidget *window = widget->window();
-    QTest::mouseMove(window->windowHandle(), widget->mapTo(window, position));
+    const QPoint inWindow = widget->mapTo(window, position);
+    // Qt drops a move to where the pointer is already, so it comes from one pixel beside.
+    QTest::mouseMove(window->windowHandle(), inWindow - QPoint(1, 0));
+    QTest::mouseMove(window->windowHandle(), inWindow);
     QCoreApplication::processEvents();
 }
 

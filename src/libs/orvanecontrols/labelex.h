@@ -39,9 +39,11 @@ public:
     QString fromColorToStr(QColor color);
 
 Q_SIGNALS:
-    /// The left mouse button went down over the label; its release is not waited for.
+    /// The left mouse button went down over the label; its release is not waited for, and both
+    /// presses of a double click count. The label may be deleted here.
     void signal_mouseclicked();
-    /// The pointer came onto the label.
+    /// The pointer came onto the label. To delete the label here, use deleteLater(): Qt itself goes
+    /// on using the widget that the pointer enters. The same holds for signal_mouseleave().
     void signal_mouseenter();
     /// The pointer left the label.
     void signal_mouseleave();

@@ -28,14 +28,16 @@ public:
     /// Composes the style sheet of the orientation from the stored values and applies it.
     void setSliderStyle();
 
-    /// Sets the groove's colour beyond the handle (default 99,99,99). \see addPageColor()
+    /// Sets the groove's colour right of the handle, below it in a vertical slider (default
+    /// 99,99,99). \see addPageColor()
     void setAddPageColor(const QColor &color);
-    /// The groove's colour beyond the handle. \see setAddPageColor()
+    /// The groove's colour right of or below the handle. \see setAddPageColor()
     QColor addPageColor() const;
 
-    /// Sets the groove's colour before the handle (default 153,153,153). \see subPageColor()
+    /// Sets the groove's colour left of the handle, above it in a vertical slider (default
+    /// 153,153,153). \see subPageColor()
     void setSubPageColor(const QColor &color);
-    /// The groove's colour before the handle. \see setSubPageColor()
+    /// The groove's colour left of or above the handle. \see setSubPageColor()
     QColor subPageColor() const;
 
     /// Sets the handle's colour (default 128,128,128). \see handleColor()

@@ -60,8 +60,8 @@ public:
     bool showValue() const;
 
     /// Lets the box lose the focus as usual (default true). With false the next loss of the focus
-    /// sets the focus policy to Qt::NoFocus, so that neither a click nor Tab gives the box the focus
-    /// again, and is not followed by editingFinished(). \see focusOutEvent()
+    /// sets the focus policy to Qt::NoFocus, so that neither a click nor Tab brings it back, and is
+    /// not followed by editingFinished(). \see focusOutEvent()
     void setFocusOutEvent(bool passOn);
     /// Whether the box loses the focus as usual. \see setFocusOutEvent()
     bool focusOutEvent() const;

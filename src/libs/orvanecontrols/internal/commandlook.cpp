@@ -50,12 +50,12 @@ CommandLook notActivatedCommandLook()
 }
 
 QString commandSheet(const QString &widgetType, const CommandLook &look, const StateWords &states,
-                     const QString &font)
+                     const QString &font, const QString &more)
 {
     // The radius carries no unit; hosts rely on the text.
     return commandRule(widgetType, look.normalBackground, look.normalFontColor,
-                       "font:" + font + ";border-radius:" + QString::number(look.borderRadius)
-                           + ";")
+                       "font:" + font + ";border-radius:" + QString::number(look.borderRadius) + ";"
+                           + more)
         + commandRule(widgetType + ":" + states.hover, look.hoverBackground, look.hoverFontColor)
         + commandRule(widgetType + ":" + states.pressed, look.pressedBackground,
                       look.pressedFontColor)

@@ -34,9 +34,10 @@ struct StateWords {
 };
 
 /// Composes the sheet of a command button: one rule of \a widgetType for its normal state and one
-/// for each of \a states. \a font is what stands behind "font:", and the radius has no unit.
+/// for each of \a states. \a font is what stands behind "font:", \a more are further declarations
+/// of the normal state, and the radius has no unit.
 QString commandSheet(const QString &widgetType, const CommandLook &look, const StateWords &states,
-                     const QString &font);
+                     const QString &font, const QString &more = QString());
 
 } // namespace orvane
 
