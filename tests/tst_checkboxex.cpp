@@ -1,4 +1,5 @@
 #include "support/pointer.h"
+#include "support/sheetimages.h"
 #include "support/testcase.h"
 
 #include <checkboxex.h>
@@ -190,14 +191,11 @@ private Q_SLOTS:
 
     void everyImageOfTheSheetResolves()
     {
-        const QString text = CheckBoxEx().styleSheet();
-        QRegularExpression url("url\\(([^)]*)\\)");
-        int count = 0;
-        for (auto it = url.globalMatch(text); it.hasNext(); ++count) {
-            const QString path = it.next().captured(1);
+        QStringList paths = imagePaths(CheckBoxEx().styleSheet());
+        for (const QString &path : qAsConst(paths))
             QCOMPARE(QImage(path).size(), QSize(32, 32));
-        }
-        QCOMPARE(count, 5);
+        QCOMPARE(paths.count(), 5);
+        QCOMPARE(paths.removeDuplicates(), 0);
     }
 
     void clickAndSpaceToggle()

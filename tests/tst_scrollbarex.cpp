@@ -1,4 +1,5 @@
 #include "support/pointer.h"
+#include "support/sheetimages.h"
 #include "support/testcase.h"
 
 #include <scrollbarex.h>
@@ -426,13 +427,10 @@ private Q_SLOTS:
         QString sheets = target.styleSheet();
         style.setHorizontalStyle();
         sheets += target.styleSheet();
-        QRegularExpression url("url\\(([^)]*)\\)");
-        QSet<QString> paths;
-        for (auto it = url.globalMatch(sheets); it.hasNext();) {
-            const QString path = it.next().captured(1);
+        QStringList paths = imagePaths(sheets);
+        for (const QString &path : qAsConst(paths))
             QCOMPARE(QImage(path).size(), QSize(16, 16));
-            paths << path;
-        }
+        paths.removeDuplicates();
         QCOMPARE(paths.size(), 8);
     }
 

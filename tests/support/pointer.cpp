@@ -1,6 +1,6 @@
 #include "pointer.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QtTest>
 #include <QWheelEvent>
 #include <QWidget>
@@ -41,7 +41,10 @@ void turnWheel(QWidget *widget, int steps)
     QWheelEvent event(widget->mapTo(window, inWidget), widget->mapToGlobal(inWidget), QPoint(),
                       QPoint(0, steps * notch), Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,
                       false);
-    QCoreApplication::sendEvent(window->windowHandle(), &event);
+    // Marked as the window system's own: only such an event goes on to the parent of a widget that
+    // ignores it.
+    QSpontaneKeyEvent::setSpontaneous(&event);
+    qApp->notify(window->windowHandle(), &event);
 }
 
 QColor colorAt(QWidget *widget, QPoint position)
