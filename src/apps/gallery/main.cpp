@@ -1,0 +1,143 @@
+#include "fontsubstitutes.h"
+#include "gallerywindow.h"
+#include "pagelist.h"
+#include "render.h"
+#include "theme.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QLoggingCategory>
+
+#include <cstdio>
+
+namespace
+{
+
+constexpr int usageError = 2;
+
+/// What the command line asks for.
+struct Request {
+    enum Kind { ShowWindow, Render, Done } kind = Done;
+    int exitStatus = 0;
+    QStringList pages; ///< One page, or all of them.
+    QString directory;
+};
+
+Request fail(const QString &reason)
+{
+    std::fprintf(stderr, "gallery: %s\n", qPrintable(reason));
+    return {Request::Done, usageError, {}, {}};
+}
+
+/// True where a window needs a display server and none is announced.
+bool isDisplayMissing()
+{
+#if defined(Q_OS_UNIX) && !defined(Q_OS_MACOS)
+    return qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") && qEnvironmentVariableIsEmpty("DISPLAY")
+        && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+#else
+    return false;
+#endif
+}
+
+/// Answers what needs no window, so that it works, and stays quiet, without a display.
+Request readCommandLine(int argc, char **argv)
+{
+    QCoreApplication application(argc, argv);
+    QCoreApplication::setApplicationName("gallery");
+    QCoreApplication::setApplicationVersion(GALLERY_VERSION);
+
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        "Shows every widget of OrvaneControls in its looks and states, with controls for its "
+        "setters.");
+    const QCommandLineOption helpOption = parser.addHelpOption();
+    const QCommandLineOption versionOption = parser.addVersionOption();
+    const QCommandLineOption listOption("list", "Lists the pages, one name a line.");
+    const QCommandLineOption pageOption("page", "Opens at that page, or renders only that one.",
+                                        "name");
+    const QCommandLineOption renderOption(
+        "render", "Renders the pages to PNG files in that folder. Needs no display.", "folder");
+    parser.addOptions({listOption, pageOption, renderOption});
+
+    if (!parser.parse(QCoreApplication::arguments()))
+        return fail(parser.errorText());
+    if (!parser.positionalArguments().isEmpty())
+        return fail(QStringLiteral("unexpected argument \"%1\"; --help names the options")
+                        .arg(parser.positionalArguments().first()));
+    if (parser.isSet(helpOption)) {
+        std::fputs(qPrintable(parser.helpText()), stdout);
+        return {};
+    }
+    if (parser.isSet(versionOption)) {
+        std::printf("gallery %s\n", GALLERY_VERSION);
+        return {};
+    }
+    if (parser.isSet(listOption)) {
+        for (const PageInfo &page : pageList())
+            std::printf("%s\n", qPrintable(page.name));
+        return {};
+    }
+
+    Request request;
+    if (parser.isSet(pageOption)) {
+        const QString name = parser.value(pageOption);
+        const PageInfo *page = findPage(name);
+        if (!page)
+            return fail(QStringLiteral("there is no page \"%1\"; --list names them all").arg(name));
+        request.pages.append(page->name);
+    } else {
+        for (const PageInfo &page : pageList())
+            request.pages.append(page.name);
+    }
+    if (parser.isSet(renderOption)) {
+        request.kind = Request::Render;
+        request.directory = parser.value(renderOption);
+        if (!takesFiles(request.directory))
+            return fail(QStringLiteral("cannot write to the folder \"%1\"").arg(request.directory));
+        return request;
+    }
+    if (isDisplayMissing())
+        return fail("there is no display to open a window on; --render FOLDER needs none");
+    request.kind = Request::ShowWindow;
+    return request;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const Request request = readCommandLine(argc, argv);
+    if (request.kind == Request::Done)
+        return request.exitStatus;
+
+    if (isDisplayMissing())
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (request.kind == Request::Render) {
+        // Pictures are the same whatever the screen; QT_SCALE_FACTOR still makes larger ones.
+        qputenv("QT_FONT_DPI", "96");
+    } else {
+        // Whole factors only, as Qt rounds them: a screen of 100 dots per inch is no reason for
+        // blurred lines. QT_SCALE_FACTOR asks for any other.
+        QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    }
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    // The spin boxes write debug messages that mean nothing to people who look at them.
+    QLoggingCategory::setFilterRules("default.debug=false");
+
+    QApplication application(argc, argv);
+    QApplication::setApplicationName("gallery");
+    QApplication::setApplicationDisplayName("OrvaneControls Gallery");
+    QApplication::setApplicationVersion(GALLERY_VERSION);
+    theme::apply();
+    registerFontSubstitutes();
+
+    if (request.kind == Request::Render) {
+        const QString error = renderPages(request.pages, request.directory);
+        return error.isEmpty() ? 0 : fail(error).exitStatus;
+    }
+    GalleryWindow window;
+    window.showPage(request.pages.first());
+    window.show();
+    return QApplication::exec();
+}
