@@ -78,8 +78,7 @@ private Q_SLOTS:
         alignas(QWidget) unsigned char storage[sizeof(QWidget)];
         auto build = [&storage](const char *color) {
             auto *container = new (storage) QWidget;
-            orvane::applyStyleSheet(container,
-                                    QStringLiteral("QLabel{background:%1;}").arg(color));
+            orvane::applyStyleSheet(container, QStringLiteral("QLabel{background:%1;}").arg(color));
             auto *label = new QLabel(container);
             label->setFixedSize(40, 40);
             label->style()->styleHint(QStyle::SH_EtchDisabledText, nullptr, label);

@@ -11,6 +11,7 @@
 #include <QApplication>
 #include <QHBoxLayout>
 #include <QPainter>
+#include <QScreen>
 #include <QShortcut>
 #include <QSplitter>
 #include <QSplitterHandle>
@@ -106,7 +107,7 @@ GalleryWindow::GalleryWindow(QWidget *parent)
     layout->setSpacing(0);
     layout->addWidget(m_navigation);
     layout->addWidget(right, 1);
-    resize(1280, 800);
+    resize(QSize(1280, 800).boundedTo(QGuiApplication::primaryScreen()->availableSize()));
 
     new FocusRing(this);
 
