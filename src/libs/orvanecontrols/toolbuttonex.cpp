@@ -65,19 +65,30 @@ ToolButtonEx::ToolButtonEx(QWidget *parent, ButtonType type, QString upText, QSt
     createButtonByType(type);
 }
 
-ToolButtonEx::~ToolButtonEx() = default;
+ToolButtonEx::~ToolButtonEx()
+{
+    // A receiver may delete the button on the drop, while Qt still works with the drag: so the drag
+    // outlives the button. One that is still under way is given up.
+    if (m_drag) {
+        m_drag->setParent(nullptr);
+        QMetaObject::invokeMethod(
+            m_drag.data(), [] { QDrag::cancel(); }, Qt::QueuedConnection);
+    }
+}
 
 void ToolButtonEx::createButtonByType(ButtonType type)
 {
     switch (type) {
     case LeftToRightType:
         initLeftToRightParam();
-        createLeftToRightLabels();
+        if (!layout())
+            createLeftToRightLabels();
         setLeftToRightStyle();
         break;
     case TopToBottomType:
         initTopToBottomParam();
-        createTopToBottomLabels();
+        if (!layout())
+            createTopToBottomLabels();
         setTopToBottomStyle();
         break;
     case CabinetType:
@@ -1027,21 +1038,14 @@ void ToolButtonEx::paintEvent(QPaintEvent *event)
         painter.setFont(small);
     }
 
+    const int freeHeight = height() - m_textBandHeight;
+    QRect cabinet(0, 0, width(), freeHeight);
     if (m_cabinetWidth > 0 && m_cabinetHeight > 0) {
-        const int freeHeight = height() - m_textBandHeight;
-        const int steps = (qMax(m_textBandHeight, m_cabinetWidth) - 64) / 448;
-        const double factor = 0.7 + 0.3 * steps;
-        m_scale = static_cast<float>(factor);
-        const double side = factor * qMin(width(), freeHeight);
-        const double aspect = double(m_cabinetWidth) / m_cabinetHeight;
-        const double rectWidth = aspect >= 1 ? side : aspect * side;
-        const double rectHeight = aspect >= 1 ? side / aspect : side;
-        const QRect cabinet(int((width() - rectWidth) / 2), int((freeHeight - rectHeight) / 2),
-                            int(rectWidth), int(rectHeight));
+        cabinet = cabinetRect(cabinet.size());
         painter.drawRect(cabinet);
-        if (m_isDrawCabinetCount)
-            painter.drawText(cabinet, Qt::AlignCenter, QString::number(m_cabinetCount));
     }
+    if (m_isDrawCabinetCount)
+        painter.drawText(cabinet, Qt::AlignCenter, QString::number(m_cabinetCount));
 
     const QString text = sizeText(m_cabinetWidth, m_cabinetHeight);
     painter.setPen(QColor(255, 255, 255));
@@ -1132,6 +1136,21 @@ void ToolButtonEx::leaveEvent(QEvent *event)
 bool ToolButtonEx::isCabinet() const
 {
     return m_type == CabinetType || m_type == CabinetModelType;
+}
+
+QRect ToolButtonEx::cabinetRect(QSize area)
+{
+    // The longer side takes 0.7 of the area's shorter side, and 0.3 more for every 448 pixels from
+    // 64 on. Whole numbers keep every side exact: in binary fractions 0.7 of 90 is less than 63.
+    const qint64 tenths = 7 + 3 * ((qMax(m_textBandHeight, m_cabinetWidth) - 64) / 448);
+    m_scale = static_cast<float>(tenths) / 10;
+    const qint64 side = tenths * qMin(area.width(), area.height());
+    const qint64 unit = 10 * qint64(qMax(m_cabinetWidth, m_cabinetHeight));
+    const qint64 width = side * m_cabinetWidth;
+    const qint64 height = side * m_cabinetHeight;
+    return {int((area.width() * unit - width) / (2 * unit)),
+            int((area.height() * unit - height) / (2 * unit)), int(width / unit),
+            int(height / unit)};
 }
 
 bool ToolButtonEx::isBeyondDragThreshold(const QMouseEvent &event) const
@@ -1243,18 +1262,20 @@ void ToolButtonEx::setTopToBottomStyle()
 
 void ToolButtonEx::setUpLabelStyle()
 {
-    if (m_upLabel)
+    if (m_upLabel) {
         orvane::applyStyleSheet(m_upLabel,
                                 "font:" + DefineCommonData::getBigFont()
                                     + ";color: " + fromColorToStr(m_upLabelTextColor) + ";");
+    }
 }
 
 void ToolButtonEx::setDownLabelStyle()
 {
-    if (m_downLabel)
+    if (m_downLabel) {
         orvane::applyStyleSheet(m_downLabel,
                                 "font:" + DefineCommonData::getBigFont()
                                     + ";color:" + fromColorToStr(m_downLabelTextColor) + ";");
+    }
 }
 
 void ToolButtonEx::setLeftToRightStyle()
@@ -1270,10 +1291,11 @@ void ToolButtonEx::setLeftToRightStyle()
 
 void ToolButtonEx::setRightLabelColor(const QColor &color)
 {
-    if (m_rightLabel)
+    if (m_rightLabel) {
         orvane::applyStyleSheet(m_rightLabel,
                                 "font:" + m_rightLabelTextFont + ";color: " + fromColorToStr(color)
                                     + ";");
+    }
 }
 
 void ToolButtonEx::setActivatedStyle()
@@ -1303,27 +1325,31 @@ QString ToolButtonEx::plainCabinetRule() const
 
 void ToolButtonEx::dragSender()
 {
-    setCursor(Qt::ArrowCursor);
-    const QPointer<QDrag> drag = new QDrag(this);
-    drag->setMimeData(orvane::senderMimeData(m_vsenderText));
-    drag->setPixmap(orvane::senderDragPicture(m_vsenderText, m_isHasData));
-    drag->setHotSpot(orvane::dragHotSpot);
-    drag->exec(Qt::MoveAction);
-    delete drag;
+    runDrag(orvane::senderMimeData(m_vsenderText),
+            orvane::senderDragPicture(m_vsenderText, m_isHasData));
 }
 
 void ToolButtonEx::dragCabinet()
 {
-    setCursor(Qt::ArrowCursor);
     m_isCabinetDrag = true;
     const QPointer<ToolButtonEx> self(this);
-    const QPointer<QDrag> drag = new QDrag(this);
-    drag->setMimeData(orvane::cabinetMimeData(m_cabinetInfo));
-    drag->setPixmap(orvane::cabinetDragPicture());
-    drag->setHotSpot(orvane::dragHotSpot);
-    drag->exec(Qt::MoveAction);
-    delete drag;
+    // A copy shares its texts with the record: they live as long as the drag, whatever the host
+    // does to the button meanwhile.
+    const StructCabinet record = m_cabinetInfo;
+    runDrag(orvane::cabinetMimeData(record), orvane::cabinetDragPicture());
     // The plain look until the pointer comes back: it has left without a leave event.
     if (self)
         orvane::applyStyleSheet(this, plainCabinetRule());
+}
+
+void ToolButtonEx::runDrag(QMimeData *data, const QPixmap &picture)
+{
+    setCursor(Qt::ArrowCursor);
+    const QPointer<QDrag> drag = new QDrag(this);
+    m_drag = drag;
+    drag->setMimeData(data);
+    drag->setPixmap(picture);
+    drag->setHotSpot(orvane::dragHotSpot);
+    drag->exec(Qt::MoveAction);
+    delete drag;
 }

@@ -16,9 +16,10 @@
 
 #include <memory>
 
+class QDrag;
 class QHBoxLayout;
 class QLabel;
-class QVBoxLayout;
+class QMimeData;
 
 namespace orvane
 {
@@ -52,7 +53,8 @@ public:
     ToolButtonEx(QWidget *parent, ButtonType type, QString upText, QString downText);
     ~ToolButtonEx() override;
 
-    /// Builds what a button of \a type consists of and applies its sheet. The constructor calls it.
+    /// Builds what a button of \a type consists of and applies its sheet; the type stays. The
+    /// constructor calls it. Labels are built only into a button that has no layout yet.
     void createButtonByType(ButtonType type);
     /// Stores the type. The two command types also get their default colours and their sheet; for
     /// any other, neither children nor sheet change.
@@ -393,6 +395,7 @@ protected:
 
 private:
     bool isCabinet() const;
+    QRect cabinetRect(QSize area);
     bool isBeyondDragThreshold(const QMouseEvent &event) const;
     void initTopToBottomParam();
     void initLeftToRightParam();
@@ -411,6 +414,7 @@ private:
     QString plainCabinetRule() const;
     void dragSender();
     void dragCabinet();
+    void runDrag(QMimeData *data, const QPixmap &picture);
 
     ButtonType m_type = DefaultType;
     QString m_text;
@@ -474,7 +478,7 @@ private:
     int m_cabinetNormalBorder = 0;
     int m_cabinetHoverBorder = 0;
     int m_cabinetPressedBorder = 0;
-    QMap<int, double> m_sizeToScale; ///< For the host's inspection; the painter has a formula.
+    QMap<int, double> m_sizeToScale; ///< The steps once meant; the painter goes by its formula.
 
     bool m_isVsender = false;
     bool m_vsenderDrag = false;
@@ -485,6 +489,7 @@ private:
     bool m_isPressed = false;
     QPoint m_pressPoint;
     bool m_isCabinetDrag = false;
+    QPointer<QDrag> m_drag;
     int m_textBandHeight = 0;
     float m_scale = 0.0F;
 };

@@ -1,0 +1,135 @@
+#include "widgetwithscrollex.h"
+
+#include "internal/stepscroll.h"
+#include "internal/stylesheet.h"
+#include "ui_widgetwithscrollex.h"
+
+#include <QLabel>
+#include <QScrollBar>
+#include <QToolButton>
+
+namespace
+{
+
+constexpr int windowWidth = 138;
+constexpr int windowHeight = 69;
+constexpr int defaultStep = 74;
+
+} // namespace
+
+WidgetWithScrollEx::WidgetWithScrollEx(QWidget *parent)
+    : QFrame(parent)
+    , m_ui(std::make_unique<Ui::WidgetWithScrollEx>())
+{
+    m_ui->setupUi(this);
+    createScrollButton();
+    initControls();
+    initStyle();
+}
+
+WidgetWithScrollEx::~WidgetWithScrollEx() = default;
+
+void WidgetWithScrollEx::createScrollButton()
+{
+    m_leftButton = new QToolButton(m_ui->leftBtnFrame);
+    orvane::fillParent(m_leftButton);
+    connect(m_leftButton, &QToolButton::clicked, this, &WidgetWithScrollEx::on_leftClicked);
+    orvane::applyStyleSheet(
+        m_leftButton,
+        QStringLiteral("QToolButton{border-image: "
+                       "url(:/Resource/Images/globalResource/drawer/btn_Left_normal.png);}"
+                       "QToolButton:pressed{border-image: "
+                       "url(:/Resource/Images/globalResource/drawer/btn_Left_pressed.png);}"));
+
+    m_rightButton = new QToolButton(m_ui->rightBtnFrame);
+    orvane::fillParent(m_rightButton);
+    connect(m_rightButton, &QToolButton::clicked, this, &WidgetWithScrollEx::on_rightClicked);
+    orvane::applyStyleSheet(
+        m_rightButton,
+        QStringLiteral("QToolButton{border-image: "
+                       "url(:/Resource/Images/globalResource/drawer/btn_Right_normal.png);}"
+                       "QToolButton:pressed{border-image: "
+                       "url(:/Resource/Images/globalResource/drawer/btn_Right_pressed.png);}"));
+
+    m_leftPlaceholder = new QLabel(m_ui->leftBtnFrame);
+    orvane::fillParent(m_leftPlaceholder);
+    m_rightPlaceholder = new QLabel(m_ui->rightBtnFrame);
+    orvane::fillParent(m_rightPlaceholder);
+}
+
+void WidgetWithScrollEx::initControls()
+{
+    const QScrollBar *bar = m_ui->scrollArea->horizontalScrollBar();
+    connect(bar, &QScrollBar::rangeChanged, this, &WidgetWithScrollEx::on_rangChanged);
+    m_position = bar->sliderPosition();
+    m_scrollSingleStepValue = defaultStep;
+    setLeftButtonVisible(false);
+    setRightButtonVisible(false);
+}
+
+void WidgetWithScrollEx::initStyle()
+{
+    orvane::applyStyleSheet(
+        this,
+        QStringLiteral("#WidgetWithScrollEx{border:none; background-color:RGB(69, 69, 69);}"));
+}
+
+void WidgetWithScrollEx::addWidget(QWidget *w)
+{
+    if (!w)
+        return;
+    QScrollArea *area = m_ui->scrollArea;
+    area->setWidget(w);
+    area->setFixedSize(windowWidth, windowHeight);
+    if (w->width() > area->width()) {
+        setLeftButtonVisible(false);
+        setRightButtonVisible(true);
+    }
+}
+
+void WidgetWithScrollEx::removeWidget()
+{
+    delete m_ui->scrollArea->takeWidget();
+}
+
+void WidgetWithScrollEx::setLeftButtonVisible(bool b)
+{
+    orvane::setArrowVisible(m_leftButton, m_leftPlaceholder, b);
+}
+
+void WidgetWithScrollEx::setRightButtonVisible(bool b)
+{
+    orvane::setArrowVisible(m_rightButton, m_rightPlaceholder, b);
+}
+
+void WidgetWithScrollEx::setScrollSingleStepValue(int value)
+{
+    m_scrollSingleStepValue = value;
+}
+
+int WidgetWithScrollEx::scrollSingleStepValue() const
+{
+    return m_scrollSingleStepValue;
+}
+
+void WidgetWithScrollEx::on_rangChanged(int min, int max)
+{
+    m_rangeMinimum = min;
+    m_rangeMaximum = max;
+}
+
+void WidgetWithScrollEx::on_leftClicked()
+{
+    setRightButtonVisible(true);
+    if (orvane::stepLeft(m_ui->scrollArea->horizontalScrollBar(), m_position, m_rangeMinimum,
+                         m_scrollSingleStepValue))
+        setLeftButtonVisible(false);
+}
+
+void WidgetWithScrollEx::on_rightClicked()
+{
+    setLeftButtonVisible(true);
+    if (orvane::stepRight(m_ui->scrollArea->horizontalScrollBar(), m_position, m_rangeMaximum,
+                          m_scrollSingleStepValue))
+        setRightButtonVisible(false);
+}
