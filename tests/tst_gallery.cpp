@@ -60,10 +60,38 @@ private Q_SLOTS:
         QCOMPARE(outcome.errors, QByteArray());
         QVERIFY(outcome.output.endsWith('\n'));
         QStringList names = QString::fromUtf8(outcome.output.trimmed()).split('\n');
-        for (const char *name :
-             {"CheckBoxEx", "RadioButtonEx", "LabelEx", "ScrollBarEx", "PushButtonEx", "SpinBoxEx",
-              "DoubleSpinBoxEx", "LineEditEx", "SliderEx", "SliderExMouse", "ComboBoxEx",
-              "ComboboxItem", "DefineCommonData", "Images"})
+        for (const char *name : {"CheckBoxEx",
+                                 "RadioButtonEx",
+                                 "LabelEx",
+                                 "ScrollBarEx",
+                                 "PushButtonEx",
+                                 "SpinBoxEx",
+                                 "DoubleSpinBoxEx",
+                                 "LineEditEx",
+                                 "SliderEx",
+                                 "SliderExMouse",
+                                 "ComboBoxEx",
+                                 "ComboboxItem",
+                                 "ToolButtonEx",
+                                 "StructCabinet",
+                                 "MutexButtonEx",
+                                 "ToolBarEx",
+                                 "ButtonGroupEx",
+                                 "WidgetWithScrollEx",
+                                 "RowLineItem",
+                                 "DrawerItemContent",
+                                 "DrawerItem",
+                                 "Drawer",
+                                 "OfflinePortItemFrame",
+                                 "OfflinePortItemContentFrame",
+                                 "DrawItemContentNew",
+                                 "WidgetControllBoard",
+                                 "WidgetBoard",
+                                 "WidgetContent",
+                                 "ShapeWidget",
+                                 "ShapeWidgetContent",
+                                 "DefineCommonData",
+                                 "Images"})
             QCOMPARE(names.count(name), 1);
         QCOMPARE(names.removeDuplicates(), 0);
         QVERIFY(!names.contains(QString()));
