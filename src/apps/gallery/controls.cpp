@@ -189,6 +189,11 @@ QString eventText(double value)
     return QString::number(value);
 }
 
+QString eventText(const QSize &value)
+{
+    return QStringLiteral("%1×%2").arg(value.width()).arg(value.height());
+}
+
 QString eventText(const QString &value)
 {
     return '"' + value + '"';

@@ -102,12 +102,16 @@ protected:
 /// one. Its text is never elided.
 PushButtonEx *makeButton(const QString &text, BtnType type, QWidget *parent);
 
-/// A signal's argument as the list of events shows it.
+/// A signal's argument as the list of events shows it. A page whose signals carry other types
+/// declares its own in the global namespace.
 QString eventText(bool value);
 QString eventText(int value);
 QString eventText(double value);
+QString eventText(const QSize &value);
 QString eventText(const QString &value);
 QString eventText(const QColor &value);
 QString eventText(const QPixmap &value);
+/// A pointer is not to be taken for a bool.
+template <class Pointee> QString eventText(Pointee *) = delete;
 
 #endif // GALLERY_CONTROLS_H

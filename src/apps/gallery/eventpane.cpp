@@ -6,6 +6,7 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
+#include <QStyledItemDelegate>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -13,6 +14,34 @@ namespace
 {
 
 constexpr int keptEvents = 1000;
+constexpr int lineHeight = 5 * theme::unit;
+constexpr int signalColumn = 2;
+
+/// Gives an event as many lines as its text takes: a record takes several.
+class EventDelegate : public QStyledItemDelegate
+{
+public:
+    explicit EventDelegate(QTreeWidget *list)
+        : QStyledItemDelegate(list)
+        , m_list(list)
+    {
+    }
+
+    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override
+    {
+        if (index.column() != signalColumn)
+            return {0, lineHeight};
+        const int margin = 1 + m_list->style()->pixelMetric(QStyle::PM_FocusFrameHMargin);
+        const QRect text =
+            option.fontMetrics.boundingRect(0, 0, m_list->columnWidth(signalColumn) - 2 * margin, 0,
+                                            Qt::TextWordWrap, index.data().toString());
+        const int lines = qMax(1, text.height() / option.fontMetrics.lineSpacing());
+        return {0, lineHeight + (lines - 1) * option.fontMetrics.lineSpacing()};
+    }
+
+private:
+    QTreeWidget *m_list;
+};
 
 } // namespace
 
@@ -31,7 +60,8 @@ EventPane::EventPane(QWidget *parent)
     m_list->setColumnCount(3);
     m_list->setHeaderHidden(true);
     m_list->setRootIsDecorated(false);
-    m_list->setUniformRowHeights(true);
+    m_list->setWordWrap(true);
+    m_list->setItemDelegate(new EventDelegate(m_list));
     m_list->setFrameShape(QFrame::NoFrame);
     m_list->setSelectionMode(QAbstractItemView::NoSelection);
     m_list->setIndentation(0);
@@ -40,7 +70,9 @@ EventPane::EventPane(QWidget *parent)
     m_list->header()->setMinimumSectionSize(1);
     m_list->setColumnWidth(0, 10 * theme::unit);
     m_list->setColumnWidth(1, 28 * theme::unit);
+    m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     theme::styleScrollBars(m_list);
+    connect(m_list->header(), &QHeaderView::sectionResized, m_list, &QTreeWidget::doItemsLayout);
 
     auto *header = new QHBoxLayout;
     header->setSpacing(theme::gap);
@@ -61,11 +93,12 @@ void EventPane::add(const QString &className, const QString &signal)
 {
     ++m_number;
     auto *item = new QTreeWidgetItem({QString::number(m_number), className, signal});
-    item->setTextAlignment(0, Qt::AlignRight | Qt::AlignVCenter);
+    item->setTextAlignment(0, Qt::AlignRight | Qt::AlignTop);
+    item->setTextAlignment(1, Qt::AlignLeft | Qt::AlignTop);
+    item->setTextAlignment(2, Qt::AlignLeft | Qt::AlignTop);
     item->setForeground(0, theme::disabledText);
     item->setForeground(1, theme::quietText);
     item->setToolTip(2, signal);
-    item->setSizeHint(0, QSize(0, 5 * theme::unit));
     m_list->addTopLevelItem(item);
     if (m_list->topLevelItemCount() > keptEvents)
         delete m_list->takeTopLevelItem(0);

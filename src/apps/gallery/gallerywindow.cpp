@@ -98,7 +98,7 @@ GalleryWindow::GalleryWindow(QWidget *parent)
     right->setStretchFactor(1, 0);
     right->setSizes({500, 208});
 
-    m_navigation->setFixedWidth(48 * theme::unit);
+    m_navigation->setFixedWidth(58 * theme::unit);
     m_sheetPane->setMinimumSize(60 * theme::unit, 30 * theme::unit);
     m_eventPane->setMinimumSize(60 * theme::unit, 30 * theme::unit);
 

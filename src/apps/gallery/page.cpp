@@ -16,7 +16,7 @@
 namespace
 {
 
-constexpr int panelWidth = 84 * theme::unit;
+constexpr int panelWidth = 84 * theme::unit; // more if a name is long
 constexpr int controlWidth = 28 * theme::unit;
 
 /// A part of a page: a heading by weight over its content, in a border.
@@ -105,6 +105,7 @@ Page::Page(const PageInfo &info, QWidget *parent)
     panelLayout->addWidget(stage);
     panelLayout->addLayout(m_controlsLayout);
     panelLayout->addStretch(1);
+    stage->hide(); // until there is something on it
     m_panelScrollArea = makeScrollArea(panelContent, m_panel);
 
     auto *panelFrame = new QHBoxLayout(m_panel);
@@ -118,7 +119,6 @@ Page::Page(const PageInfo &info, QWidget *parent)
     separator->setPalette(separatorPalette);
     panelFrame->addWidget(separator);
     panelFrame->addWidget(m_panelScrollArea);
-    m_panel->setFixedWidth(panelWidth);
     m_panel->hide(); // until there is something to try
 
     auto *layout = new QHBoxLayout(this);
@@ -130,6 +130,9 @@ Page::Page(const PageInfo &info, QWidget *parent)
     info.build(*this);
 
     m_contentLayout->addStretch(1);
+    const int neededWidth = m_panelScrollArea->widget()->minimumSizeHint().width()
+        + m_panelScrollArea->verticalScrollBar()->sizeHint().width() + separator->width();
+    m_panel->setFixedWidth(qMax(panelWidth, neededWidth));
     for (SampleFrame *frame : qAsConst(m_frames)) {
         if (frame->isLive()) {
             select(frame);
@@ -196,12 +199,30 @@ void Page::addToStage(const Sample &sample, const QString &title)
     auto *frame = new SampleFrame(sample, title.isEmpty() ? "Try it" : "Try it: " + title,
                                   m_stageLayout->parentWidget());
     m_stageLayout->addWidget(frame, 0, Qt::AlignCenter);
+    m_stageLayout->parentWidget()->show();
     m_panel->show();
+    addFrame(frame);
+}
+
+void Page::addCardToTry(const QString &title, const Sample &sample, QWidget *beside)
+{
+    auto *content = new QWidget;
+    auto *frame = new SampleFrame(sample, title, content);
+    auto *layout = new QHBoxLayout(content);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(theme::margin);
+    layout->addWidget(frame, 0, Qt::AlignTop | Qt::AlignLeft);
+    if (beside)
+        layout->addWidget(beside, 1);
+    else
+        layout->addStretch(1);
+    card(title, content);
     addFrame(frame);
 }
 
 void Page::addRow(const QString &name, QWidget *control)
 {
+    m_panel->show();
     const int row = m_controlsLayout->rowCount();
     auto *label = new QLabel(name, m_controlsLayout->parentWidget());
     label->setBuddy(control);
@@ -215,6 +236,7 @@ void Page::addRow(const QString &name, QWidget *control)
 
 void Page::addAction(const QString &name, const std::function<void()> &call)
 {
+    m_panel->show();
     PushButtonEx *button = makeButton(name, NoActivatedBtn, m_controlsLayout->parentWidget());
     button->setFixedWidth(qMax(button->width(), controlWidth));
     button->setText(name); // elided to the width it has now

@@ -83,6 +83,17 @@ public:
     {
         addToStage(sample, title);
     }
+    /// The same for a widget that is too large for the panel: it stands in a card of its own, with
+    /// \a beside at its right.
+    template <class W> W *tryHere(const QString &title, W *widget, QWidget *beside = nullptr)
+    {
+        addCardToTry(title, Sample(widget), beside);
+        return widget;
+    }
+    void tryHere(const QString &title, const Sample &sample, QWidget *beside = nullptr)
+    {
+        addCardToTry(title, sample, beside);
+    }
     /// A control for each kind of setter. \a get and \a set are members of W, or functions that
     /// take a W* first; \a name is the setter's name as a host writes it.
     template <class W, class Get, class Set>
@@ -149,6 +160,7 @@ protected:
 
 private:
     void addToStage(const Sample &sample, const QString &title);
+    void addCardToTry(const QString &title, const Sample &sample, QWidget *beside);
     void addRow(const QString &name, QWidget *control);
     void addAction(const QString &name, const std::function<void()> &call);
     void addFrame(SampleFrame *frame);

@@ -21,6 +21,24 @@ class Page;
     PAGE("Basic controls", ScrollBarEx)                                                            \
     PAGE("Basic controls", ComboBoxEx)                                                             \
     PAGE("Basic controls", ComboboxItem)                                                           \
+    PAGE("Cabinet buttons and strips", ToolButtonEx)                                               \
+    PAGE("Cabinet buttons and strips", StructCabinet)                                              \
+    PAGE("Cabinet buttons and strips", MutexButtonEx)                                              \
+    PAGE("Cabinet buttons and strips", ToolBarEx)                                                  \
+    PAGE("Cabinet buttons and strips", ButtonGroupEx)                                              \
+    PAGE("Cabinet buttons and strips", WidgetWithScrollEx)                                         \
+    PAGE("Cabinet panels", RowLineItem)                                                            \
+    PAGE("Cabinet panels", DrawerItemContent)                                                      \
+    PAGE("Cabinet panels", DrawerItem)                                                             \
+    PAGE("Cabinet panels", Drawer)                                                                 \
+    PAGE("Cabinet panels", OfflinePortItemFrame)                                                   \
+    PAGE("Cabinet panels", OfflinePortItemContentFrame)                                            \
+    PAGE("Cabinet panels", DrawItemContentNew)                                                     \
+    PAGE("Cabinet panels", WidgetControllBoard)                                                    \
+    PAGE("Cabinet panels", WidgetBoard)                                                            \
+    PAGE("Cabinet panels", WidgetContent)                                                          \
+    PAGE("Cabinet panels", ShapeWidget)                                                            \
+    PAGE("Cabinet panels", ShapeWidgetContent)                                                     \
     PAGE("Foundation", DefineCommonData)                                                           \
     PAGE("Foundation", Images)
 

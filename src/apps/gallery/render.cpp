@@ -4,9 +4,11 @@
 #include "page.h"
 
 #include <QApplication>
+#include <QCursor>
 #include <QDir>
 #include <QLayout>
 #include <QPixmap>
+#include <QScreen>
 #include <QTemporaryFile>
 
 namespace
@@ -51,6 +53,8 @@ QString renderPages(const QStringList &pages, const QString &directory)
     // Platforms without a display complain about the size limits of windows.
     window.layout()->setSizeConstraint(QLayout::SetNoConstraint);
     window.show();
+    // A pressed cabinet draws a mark at the pointer's place on the screen, taken as its own.
+    QCursor::setPos(QGuiApplication::primaryScreen()->geometry().bottomRight());
     QApplication::setActiveWindow(&window);
     for (const QString &name : pages) {
         Page *page = window.showPage(name);

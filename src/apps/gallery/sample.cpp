@@ -11,6 +11,24 @@
 #include <QPainter>
 #include <QToolTip>
 
+namespace
+{
+
+/// The pointer comes to a part of a sample through what the part stands in.
+void enterParents(const QWidget *sample, QWidget *part, const QPointF &global)
+{
+    if (part == sample)
+        return;
+    QWidget *parent = part->parentWidget();
+    enterParents(sample, parent, global);
+    const QPointF local(parent->mapFromGlobal(global.toPoint()));
+    parent->setAttribute(Qt::WA_UnderMouse);
+    QEnterEvent enter(local, local, global);
+    QCoreApplication::sendEvent(parent, &enter);
+}
+
+} // namespace
+
 SampleFrame::SampleFrame(const Sample &sample, const QString &title, QWidget *parent)
     : QWidget(parent)
     , m_sample(sample)
@@ -67,34 +85,36 @@ void SampleFrame::force()
 {
     if (m_live || !m_sample.widget)
         return;
-    QWidget *widget = m_sample.widget;
+    QWidget *part = m_column.part ? m_column.part(m_sample.widget) : m_sample.widget.data();
+    if (!part)
+        return;
     const QPoint position = m_column.pointer
-        ? m_column.pointer(widget)
-        : QPoint(qMin(theme::gap, widget->width() / 2), widget->height() / 2);
+        ? m_column.pointer(part)
+        : QPoint(qMin(theme::gap, part->width() / 2), part->height() / 2);
     switch (m_column.state) {
     case State::Hover:
-        pointAt(position, false);
+        pointAt(part, position, false);
         break;
     case State::Pressed:
-        pointAt(position, true);
+        pointAt(part, position, true);
         break;
     case State::Normal:
     case State::Focus:
     case State::Disabled:
         break;
     }
-    widget->update();
+    part->update();
 }
 
-void SampleFrame::pointAt(QPoint position, bool press)
+void SampleFrame::pointAt(QWidget *widget, QPoint position, bool press)
 {
-    QWidget *widget = m_sample.widget;
     // A press steps a spin box: what is shown goes back to the value that the page gave it.
     const QMetaProperty value = widget->metaObject()->userProperty();
     const QVariant before = value.isValid() ? value.read(widget) : QVariant();
 
     const QPointF local(position);
     const QPointF global(widget->mapToGlobal(position));
+    enterParents(m_sample.widget, widget, global);
     widget->setAttribute(Qt::WA_UnderMouse);
     QEnterEvent enter(local, local, global);
     QCoreApplication::sendEvent(widget, &enter);

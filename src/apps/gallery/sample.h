@@ -37,9 +37,23 @@ enum class State { Normal, Hover, Pressed, Focus, Disabled };
 struct StateColumn {
     QString title;
     State state = State::Normal;
-    /// Where the pointer stands on the widget; without it near the left end, half way down.
+    /// Where the pointer stands on the part; without it near the left end, half way down.
     std::function<QPoint(QWidget *)> pointer = {};
+    /// The part of the widget that the pointer is on; without it the widget itself.
+    std::function<QWidget *(QWidget *)> part = {};
 };
+
+/// A column's part: the first one of that class.
+template <class Part> QWidget *firstPart(QWidget *widget)
+{
+    return widget->findChild<Part *>();
+}
+/// A column's part: the last one of that class.
+template <class Part> QWidget *lastPart(QWidget *widget)
+{
+    const QList<Part *> parts = widget->findChildren<Part *>();
+    return parts.isEmpty() ? nullptr : parts.last();
+}
 
 /// The frame around a sample: shows which one is selected and keeps a state sample in its state.
 class SampleFrame : public QWidget
@@ -77,7 +91,7 @@ protected:
 
 private:
     void layOut();
-    void pointAt(QPoint position, bool press);
+    void pointAt(QWidget *part, QPoint position, bool press);
     void borrowFocus(QWidget *focusWidget);
 
     Sample m_sample;
