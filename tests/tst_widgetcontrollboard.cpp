@@ -948,6 +948,26 @@ private Q_SLOTS:
         QCOMPARE(alive(pointers), 0);
     }
 
+    void eventsOfADyingBoardDoNothing()
+    {
+        auto *board = new WidgetControllBoard;
+        board->setLsWidget(buttons());
+        QVERIFY(pointer::showAndWait(board));
+        board->setDropButtonVisible(true);
+        ButtonGroupEx *group = strip(*board);
+        int events = 0;
+        connect(copies().first(), &QObject::destroyed, this, [&] {
+            for (QWidget *widget : {static_cast<QWidget *>(board), static_cast<QWidget *>(group)}) {
+                send(widget, QEvent::Enter);
+                send(widget, QEvent::Leave);
+                ++events;
+            }
+        });
+        delete board;
+        QCOMPARE(events, 2);
+        QVERIFY(!popup());
+    }
+
     void lifeEndsInASlotOfItsOwnSignal_data()
     {
         QTest::addColumn<QString>("what");

@@ -26,7 +26,8 @@ ShapeWidgetContent::ShapeWidgetContent(QWidget *parent)
 void ShapeWidgetContent::setLsWidget(const QList<QWidget *> &list)
 {
     const QSet<QWidget *> kept(list.cbegin(), list.cend());
-    for (QWidget *widget : lsWidget()) {
+    const QList<QWidget *> previous = lsWidget();
+    for (QWidget *widget : previous) {
         if (!kept.contains(widget)) {
             m_gridLayout->removeWidget(widget);
             widget->hide();

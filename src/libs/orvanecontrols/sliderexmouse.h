@@ -26,7 +26,7 @@ public:
 
 Q_SIGNALS:
     /// A release of the left button has set a new value.
-    void sliderMouseRealse();
+    void sliderMouseRealse(); // clazy:exclude=overridden-signal
 
 protected:
     void mouseMoveEvent(QMouseEvent *event) override;

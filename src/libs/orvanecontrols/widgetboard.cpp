@@ -148,8 +148,8 @@ void WidgetBoard::focusOutEvent(QFocusEvent *event)
 void WidgetBoard::changeEvent(QEvent *event)
 {
     QFrame::changeEvent(event);
-    // The focus leaves the window, whichever of its widgets had it.
-    if (event->type() == QEvent::ActivationChange && isWindow() && !isActiveWindow())
+    // The focus leaves the window, whichever of its widgets had it. Only windows get this event.
+    if (event->type() == QEvent::ActivationChange && !isActiveWindow())
         hideEverything();
 }
 

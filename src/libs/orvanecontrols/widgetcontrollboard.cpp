@@ -12,7 +12,6 @@
 
 #include <QEvent>
 #include <QGuiApplication>
-#include <QLayout>
 #include <QScreen>
 #include <QTimer>
 #include <QToolButton>
@@ -61,10 +60,9 @@ void WidgetControllBoard::setLsWidget(const QList<QWidget *> &list)
     content->setLsWidget(lsWidget());
     content->setEnabled(m_isWidgetEnabled);
     m_stripContent = content;
-    // Deletes the content so far, after the new one has taken over the buttons that stay.
+    // Deletes the content so far, after the new one has taken over the buttons that stay, and lays
+    // the new one out, so that the buttons have the sizes that their copies take.
     m_buttonGroup->addWidget(content);
-    // The buttons take their sizes now, for the copies, shown or not.
-    content->layout()->activate();
     createWidgetBoardList();
     m_popup->setFixedSize(m_shapeContent->width() + popupExtraWidth,
                           m_shapeContent->height() + popupExtraHeight);
@@ -252,7 +250,8 @@ void WidgetControllBoard::createTimer()
 void WidgetControllBoard::createWidgetBoardList()
 {
     deleteCopies();
-    for (QWidget *source : lsWidget())
+    const QList<QWidget *> sources = lsWidget();
+    for (QWidget *source : sources)
         m_boardList.append(createCopy(source));
     m_isToolButtonCopies = true;
     m_shapeContent->setLsWidget(orvane::liveWidgets(m_boardList));
