@@ -1083,7 +1083,9 @@ void ToolButtonEx::mousePressEvent(QMouseEvent *event)
 void ToolButtonEx::mouseReleaseEvent(QMouseEvent *event)
 {
     const QPointer<ToolButtonEx> self(this);
-    QToolButton::mouseReleaseEvent(event);
+    // Past QToolButton, whose handler touches the button after clicked(), in which a host may have
+    // deleted it. All it does there is to forget a press on a menu arrow; the next press does that.
+    QAbstractButton::mouseReleaseEvent(event);
     if (!self)
         return;
     if (m_type == LeftToRightType) {
