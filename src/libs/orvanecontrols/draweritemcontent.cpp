@@ -25,7 +25,7 @@ DrawerItemContent::DrawerItemContent(QWidget *parent)
 DrawerItemContent::~DrawerItemContent()
 {
     // Children go with the body in any case; rows that have been moved elsewhere go, too.
-    orvane::deleteAllLater(m_rows);
+    orvane::deleteStrangersLater(m_rows, this);
 }
 
 void DrawerItemContent::addRowLineItem(int portIndex, ItemType type, QList<StructCabinet> cabinets)
@@ -42,9 +42,11 @@ void DrawerItemContent::addRowLineItem(int portIndex, ItemType type, QList<Struc
         row->AddLineItem(cabinet);
     row->addScrollWidget();
 
+    // Looked through only after a deletion, so that the n-th row costs what the first did.
+    if (layout()->count() != m_rows.size())
+        orvane::dropDeleted(m_rows);
     layout()->addWidget(row);
     ++m_index;
-    orvane::dropDeleted(m_rows);
     m_rows.append(row);
     setFixedHeight(m_rows.size() * row->height());
 }

@@ -66,9 +66,9 @@ RowLineItem::~RowLineItem()
     // Children go with the row in any case; these also go when they have been moved elsewhere.
     if (m_portButton)
         m_portButton->deleteLater();
-    orvane::deleteAllLater(m_cabinetButtons);
     if (m_contentWidget && !m_contentWidget->parentWidget())
         delete m_contentWidget;
+    orvane::deleteStrangersLater(m_cabinetButtons, this);
 }
 
 void RowLineItem::setLineItemType(int portIndex, ItemType type)
@@ -83,7 +83,9 @@ void RowLineItem::AddLineItem(StructCabinet info)
 {
     if (!m_contentWidget) // deleted with the strip's content
         m_contentWidget = new QWidget;
-    orvane::dropDeleted(m_cabinetButtons);
+    // Looked through only after a deletion, so that the n-th cabinet costs what the first did.
+    if (m_contentWidget->children().size() != m_cabinetButtons.size())
+        orvane::dropDeleted(m_cabinetButtons);
 
     auto *button = new ToolButtonEx(m_contentWidget, CabinetType, QString(), QString());
     connect(button, &ToolButtonEx::signal_notifyAddBeenTakenCabinetModel, this,

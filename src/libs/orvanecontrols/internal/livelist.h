@@ -4,6 +4,7 @@
 #include <QList>
 #include <QPointer>
 #include <QVector>
+#include <QWidget>
 
 /// Lists of widgets that a host may delete at any time, in a slot of the widget's own signal too.
 /// A widget leaves such a list by being deleted; null pointers are not kept. The pointers guard
@@ -39,6 +40,17 @@ template <typename Widget> QVector<QPointer<Widget>> liveList(const QList<Widget
 template <typename Widget> void dropDeleted(QVector<QPointer<Widget>> &list)
 {
     list.removeAll(QPointer<Widget>());
+}
+
+/// Schedules the deletion of those widgets of \a list that do not go with \a owner as its
+/// descendants.
+template <typename Widget>
+void deleteStrangersLater(const QVector<QPointer<Widget>> &list, const QWidget *owner)
+{
+    for (const QPointer<Widget> &widget : list) {
+        if (widget && !owner->isAncestorOf(widget))
+            widget->deleteLater();
+    }
 }
 
 /// Schedules the deletion of those widgets of \a list that still exist.
