@@ -1085,7 +1085,7 @@ void ToolButtonEx::mouseReleaseEvent(QMouseEvent *event)
     const QPointer<ToolButtonEx> self(this);
     // Past QToolButton, whose handler touches the button after clicked(), in which a host may have
     // deleted it. All it does there is to forget a press on a menu arrow; the next press does that.
-    QAbstractButton::mouseReleaseEvent(event);
+    QAbstractButton::mouseReleaseEvent(event); // NOLINT(bugprone-parent-virtual-call)
     if (!self)
         return;
     if (m_type == LeftToRightType) {
