@@ -1085,7 +1085,8 @@ void ToolButtonEx::mouseReleaseEvent(QMouseEvent *event)
     const QPointer<ToolButtonEx> self(this);
     // Past QToolButton, whose handler touches the button after clicked(), in which a host may have
     // deleted it. All it does there is to forget a press on a menu arrow; the next press does that.
-    QAbstractButton::mouseReleaseEvent(event); // NOLINT(bugprone-parent-virtual-call)
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call)
+    QAbstractButton::mouseReleaseEvent(event); // clazy:exclude=skipped-base-method
     if (!self)
         return;
     if (m_type == LeftToRightType) {
