@@ -67,6 +67,18 @@ class TestLineEditEx : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
+    void colorIsSeenWhenSetBeforeAndAfterTheFirstShow()
+    {
+        LineEditEx edit(nullptr, NormalLineEdit);
+        edit.resize(200, 40);
+        edit.setBackgroundColor(QColor(255, 0, 0));
+        edit.setBackgroundColor(QColor(0, 255, 0));
+        QVERIFY(pointer::showAndWait(&edit));
+        QCOMPARE(pointer::colorAt(&edit, QPoint(150, 20)), QColor(0, 255, 0));
+        edit.setBackgroundColor(QColor(0, 0, 255));
+        QCOMPARE(pointer::colorAt(&edit, QPoint(150, 20)), QColor(0, 0, 255));
+    }
+
     void hasDefaults_data()
     {
         QTest::addColumn<int>("type");

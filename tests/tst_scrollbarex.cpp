@@ -172,6 +172,22 @@ class TestScrollBarEx : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
+    void colorIsSeenWhenSetBeforeAndAfterTheFirstShow()
+    {
+        QScrollBar bar(Qt::Vertical);
+        bar.resize(16, 200);
+        bar.setRange(0, 100);
+        ScrollBarEx style(&bar, true);
+        style.setScrollColor(QColor(255, 0, 0));
+        style.setScrollColor(QColor(0, 255, 0));
+        style.setVerticalStyle();
+        QVERIFY(pointer::showAndWait(&bar));
+        QCOMPARE(pointer::colorAt(&bar, QPoint(8, 150)), QColor(0, 255, 0));
+        style.setScrollColor(QColor(0, 0, 255));
+        style.setVerticalStyle();
+        QCOMPARE(pointer::colorAt(&bar, QPoint(8, 150)), QColor(0, 0, 255));
+    }
+
     void hasDefaults()
     {
         QScrollBar target(Qt::Vertical);

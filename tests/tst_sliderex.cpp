@@ -69,6 +69,18 @@ class TestSliderEx : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
+    void colorIsSeenWhenSetBeforeAndAfterTheFirstShow()
+    {
+        SliderEx slider(nullptr, Qt::Horizontal);
+        slider.resize(200, 30);
+        slider.setAddPageColor(QColor(255, 0, 0));
+        slider.setAddPageColor(QColor(0, 255, 0));
+        QVERIFY(pointer::showAndWait(&slider));
+        QCOMPARE(pointer::colorAt(&slider, QPoint(150, 15)), QColor(0, 255, 0));
+        slider.setAddPageColor(QColor(0, 0, 255));
+        QCOMPARE(pointer::colorAt(&slider, QPoint(150, 15)), QColor(0, 0, 255));
+    }
+
     void hasDefaults_data()
     {
         QTest::addColumn<Qt::Orientation>("orientation");

@@ -507,6 +507,18 @@ private Q_SLOTS:
         QCOMPARE(paths.removeDuplicates(), 0);
     }
 
+    void colorIsSeenWhenSetBeforeAndAfterTheFirstShow()
+    {
+        SpinBoxEx box;
+        box.resize(200, 40);
+        box.setBackgroundColor(QColor(255, 0, 0));
+        box.setBackgroundColor(QColor(0, 255, 0));
+        QVERIFY(pointer::showAndWait(&box));
+        QCOMPARE(pointer::colorAt(&box, QPoint(100, 2)), QColor(0, 255, 0));
+        box.setBackgroundColor(QColor(0, 0, 255));
+        QCOMPARE(pointer::colorAt(&box, QPoint(100, 2)), QColor(0, 0, 255));
+    }
+
     void colorsAreSeen()
     {
         // A prefix of full blocks fills the text's pixels with the font colour.
