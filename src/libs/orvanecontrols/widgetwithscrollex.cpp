@@ -21,10 +21,10 @@ WidgetWithScrollEx::WidgetWithScrollEx(QWidget *parent)
     : QFrame(parent)
     , m_ui(std::make_unique<Ui::WidgetWithScrollEx>())
 {
+    initStyle(); // before there are children to restyle
     m_ui->setupUi(this);
     createScrollButton();
     initControls();
-    initStyle();
 }
 
 WidgetWithScrollEx::~WidgetWithScrollEx() = default;

@@ -14,7 +14,9 @@ void fillParent(QWidget *child)
 void setArrowVisible(QWidget *arrow, QWidget *placeholder, bool visible)
 {
     arrow->setVisible(visible);
-    placeholder->setVisible(!visible);
+    // What has never been hidden appears with its parent; showing it earlier would only cost.
+    if (visible || placeholder->testAttribute(Qt::WA_WState_ExplicitShowHide))
+        placeholder->setVisible(!visible);
 }
 
 // The distance is the slider's, the position moved is the strip's record: hosts rely on a click
