@@ -412,6 +412,8 @@ private Q_SLOTS:
         box.showPopup();
         QWidget *popup = box.view()->window();
         QTRY_VERIFY(popup->isVisible());
+        // The rows take their places a moment later, with the next layout of the list.
+        QTRY_COMPARE(row(box, 1)->y(), row(box, 0)->geometry().bottom() + 1);
         const QPoint inRow = row(box, 1)->mapTo(popup, row(box, 1)->rect().center());
         QTest::mouseClick(popup->windowHandle(), button, Qt::NoModifier, inRow);
         QCOMPARE(clicked.count(), 1);
@@ -563,6 +565,8 @@ private Q_SLOTS:
         box.showPopup();
         QWidget *popup = box.view()->window();
         QTRY_VERIFY(popup->isVisible());
+        // The rows take their places a moment later, with the next layout of the list.
+        QTRY_COMPARE(row(box, 1)->y(), row(box, 0)->geometry().bottom() + 1);
         const QPoint inRow = row(box, 2)->mapTo(popup, row(box, 2)->rect().center());
         QTest::mouseClick(popup->windowHandle(), Qt::LeftButton, Qt::NoModifier, inRow);
         QCoreApplication::processEvents();

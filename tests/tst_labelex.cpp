@@ -295,7 +295,7 @@ private Q_SLOTS:
         LabelEx label;
         label.resize(300, 40);
         label.setAlignment(alignment | Qt::AlignVCenter);
-        label.setText(QString(4, QChar(0x2588)));
+        label.setText(QString(5, QChar(0x2588))); // an odd number: no seam in the middle
         label.setFontColor(QColor(255, 0, 0));
         QVERIFY(pointer::showAndWait(&label));
         for (int place : {6, 150, 294}) {

@@ -4,8 +4,10 @@
 #include <orvanecontrols/internal/stylesheet.h>
 
 #include <QLabel>
+#include <QListWidget>
 #include <QStackedWidget>
 #include <QStyle>
+#include <QTabBar>
 
 class TestStyleSheet : public TestCase
 {
@@ -70,6 +72,45 @@ private Q_SLOTS:
 
         orvane::applyStyleSheet(container.data(), sheet.arg("#0000ff"));
         QCOMPARE(pointer::colorAt(label, QPoint(20, 20)), QColor(0, 0, 255));
+    }
+
+    // Lists and tab bars place their items before they are shown, and would keep to the first
+    // sheet.
+    void sheetReplacedBeforeTheFirstShowIsLaidOut_data()
+    {
+        QTest::addColumn<bool>("isOnTheViewItself");
+        QTest::newRow("of the parent") << false;
+        QTest::newRow("of the view") << true;
+    }
+
+    void sheetReplacedBeforeTheFirstShowIsLaidOut()
+    {
+        QFETCH(bool, isOnTheViewItself);
+        QWidget window;
+        auto *list = new QListWidget(&window);
+        list->resize(200, 300);
+        list->addItems({"first", "second"});
+        auto *tabs = new QTabBar(&window);
+        tabs->addTab("first");
+        tabs->addTab("second");
+        const QString sheet =
+            QStringLiteral("QListView::item{height:%1px;}QTabBar::tab{width:%1px;height:20px;}");
+        auto apply = [&](int size) {
+            if (isOnTheViewItself) {
+                orvane::applyStyleSheet(list, sheet.arg(size));
+                orvane::applyStyleSheet(tabs, sheet.arg(size));
+            } else {
+                orvane::applyStyleSheet(&window, sheet.arg(size));
+            }
+        };
+
+        apply(20);
+        QCOMPARE(list->visualItemRect(list->item(1)).y(), 20);
+        QCOMPARE(tabs->sizeHint().width(), 40);
+        apply(50);
+        QVERIFY(pointer::showAndWait(&window));
+        QCOMPARE(list->visualItemRect(list->item(1)).y(), 50);
+        QCOMPARE(tabs->sizeHint().width(), 100);
     }
 
     void sheetOfAWidgetThatDiedUnshownIsNotInherited()

@@ -1,11 +1,14 @@
 #include "stylesheet.h"
 
+#include <QAbstractItemView>
 #include <QColor>
 #include <QCoreApplication>
 #include <QEvent>
 #include <QStyle>
-#include <QVector>
+#include <QTabBar>
 #include <QWidget>
+
+#include <algorithm>
 
 namespace orvane
 {
@@ -13,28 +16,28 @@ namespace orvane
 namespace
 {
 
-/// The widgets below \a widget that have been made ready for showing already.
-QVector<QWidget *> polishedChildren(const QWidget *widget)
+/// Whether \a widget goes by its sheet although it has never been shown: it was made ready for
+/// showing, or it is of those that place their items before that.
+bool isStyledEarly(const QWidget *widget)
 {
-    QVector<QWidget *> polished;
-    const QList<QWidget *> children = widget->findChildren<QWidget *>();
-    for (QWidget *child : children) {
-        if (child->testAttribute(Qt::WA_WState_Polished))
-            polished.append(child);
-    }
-    return polished;
+    return widget->testAttribute(Qt::WA_WState_Polished)
+        || qobject_cast<const QAbstractItemView *>(widget) || qobject_cast<const QTabBar *>(widget);
 }
 
-void restylePolishedChildren(QWidget *widget)
+void restyleEarlyOnes(QWidget *widget)
 {
-    const QVector<QWidget *> children = polishedChildren(widget);
-    if (children.isEmpty())
+    QList<QWidget *> early = widget->findChildren<QWidget *>();
+    early.prepend(widget);
+    early.erase(std::remove_if(early.begin(), early.end(),
+                               [](const QWidget *w) { return !isStyledEarly(w); }),
+                early.end());
+    if (early.isEmpty())
         return;
     widget->style()->polish(widget); // makes Qt read the new sheet
     QEvent change(QEvent::StyleChange);
-    for (QWidget *child : children) {
-        child->style()->polish(child);
-        QCoreApplication::sendEvent(child, &change);
+    for (QWidget *each : qAsConst(early)) {
+        each->style()->polish(each);
+        QCoreApplication::sendEvent(each, &change);
     }
 }
 
@@ -64,9 +67,9 @@ void applyStyleSheet(QWidget *widget, const QString &sheet)
     widget->style()->styleHint(QStyle::SH_EtchDisabledText, nullptr, widget);
 
     // Qt gives the children a first sheet at once, but a later one only if the widget itself is
-    // polished; a child that was polished earlier would keep the sheet in force at that time.
+    // polished; what went by the earlier sheet before would keep to it.
     if (hadSheet && !widget->testAttribute(Qt::WA_WState_Polished))
-        restylePolishedChildren(widget);
+        restyleEarlyOnes(widget);
 }
 
 } // namespace orvane
