@@ -1,0 +1,147 @@
+#ifndef NQTABBAR_H
+#define NQTABBAR_H
+
+#include "orvanecontrolsglobal.h"
+#include "tabbarrd.h"
+
+#include <QColor>
+#include <QFrame>
+#include <QIcon>
+#include <QPointer>
+#include <QString>
+#include <QVariant>
+#include <QVector>
+
+class QHBoxLayout;
+class QSpacerItem;
+
+/**
+ * A row with a tab bar and places for a host's own widgets: left of the tabs, right behind them
+ * (the centre, for one widget, such as a button that adds a tab), and at the right end.
+ *
+ * The functions that carry the name of one of QTabBar do what that does with the bar. A new tab
+ * becomes the current one.
+ */
+class ORVANECONTROLS_EXPORT NQTabBar : public QFrame
+{
+    Q_OBJECT
+
+public:
+    /// Builds a row without tabs and without widgets, owned by \a parent.
+    explicit NQTabBar(QWidget *parent = nullptr);
+
+    /// Sets how wide the tabs are. With TabBarRd::TabsOfEqualWidth the bar also takes all the width
+    /// that the places leave, and keeps doing so under another type. \see getTabBarType()
+    void setTabBarType(TabBarRd::TabBarType type);
+    /// Sets the minimum width of the bar in pixels. \see getTabMinWidth()
+    void setTabMinWidth(int width);
+    /// Sets the maximum width of the bar in pixels; a negative one is ignored.
+    /// \see getTabMaxWidth()
+    void setTabMaxWidth(int width);
+    /// How wide the tabs are. \see setTabBarType()
+    TabBarRd::TabBarType getTabBarType() const;
+    /// The minimum width last set, 0 until then. \see setTabMinWidth()
+    int getTabMinWidth() const;
+    /// The maximum width last set, 0 until then. \see setTabMaxWidth()
+    int getTabMaxWidth() const;
+    /// The bar itself, which the row owns.
+    TabBarRd *getTabBar() const;
+
+    /// Gives the row a fixed size in pixels.
+    void setWidgetFixedSize(int width, int height);
+    /// Keeps a colour; nothing is painted with it.
+    void setWidgetColor(QColor color);
+    /// Sets the gap between the widgets at the left in pixels.
+    void setLeftHLayoutSpace(int space);
+    /// Sets the gap between the widgets at the right in pixels.
+    void setRightHLayoutSpace(int space);
+    /// Sets the gap that the centre's layout keeps between widgets, of which it has one at most.
+    void setCenterHLayoutSpace(int space);
+    /// Adds \a widget, which the row owns from now on, to the place at the left. Here and in the
+    /// two functions below a null pointer is ignored.
+    void addLeftWidget(QWidget *widget);
+    /// The same at the right end.
+    void addRightWidget(QWidget *widget);
+    /// The same in the centre, which holds one widget: while that exists, others are ignored and
+    /// keep their owner.
+    void addCenterWidget(QWidget *widget);
+
+    /// Inserts a tab before \a index, at the end when there is no such tab, makes it the current
+    /// one and returns its index.
+    int insertTab(int index, const QString &text);
+    int insertTab(int index, const QIcon &icon, const QString &text);
+    /// Adds a tab at the end, makes it the current one and returns its index.
+    int addTab(const QString &text);
+    int addTab(const QIcon &icon, const QString &text);
+
+    // What follows is QTabBar's.
+    void removeTab(int index);
+    void moveTab(int from, int to);
+    bool isTabEnabled(int index) const;
+    void setTabEnabled(int index, bool enabled);
+    QString tabText(int index) const;
+    void setTabText(int index, const QString &text);
+    QColor tabTextColor(int index) const;
+    void setTabTextColor(int index, const QColor &color);
+    QIcon tabIcon(int index) const;
+    void setTabIcon(int index, const QIcon &icon);
+    Qt::TextElideMode elideMode() const;
+    void setElideMode(Qt::TextElideMode mode);
+    void setTabToolTip(int index, const QString &tip);
+    QString tabToolTip(int index) const;
+    void setTabData(int index, const QVariant &data);
+    QVariant tabData(int index) const;
+    QRect tabRect(int index) const;
+    int tabAt(const QPoint &pos) const;
+    int currentIndex() const;
+    int count() const;
+    QSize iconSize() const;
+    void setIconSize(const QSize &size);
+    bool tabsClosable() const;
+    void setTabsClosable(bool closable);
+    void setTabButton(int index, QTabBar::ButtonPosition position, QWidget *widget);
+    QWidget *tabButton(int index, QTabBar::ButtonPosition position) const;
+    bool expanding() const;
+    void setExpanding(bool enabled);
+    bool autoHide() const;
+    void setAutoHide(bool hide);
+    bool isMovable() const;
+    void setMovable(bool movable);
+    bool usesScrollButtons() const;
+    void setUsesScrollButtons(bool useButtons);
+    void setCurrentIndex(int index);
+
+    /// The text of a colour in a sheet: "#rrggbb", "#aarrggbb" when translucent, "#000000" when
+    /// invalid.
+    QString fromColorToStr(QColor color);
+
+Q_SIGNALS:
+    /// The bar's: another tab is the current one, -1 when there is none left. When a tab is
+    /// removed, the bar reports this before the tab is gone; to delete the bar here, use
+    /// deleteLater().
+    void currentChanged(int index);
+    /// The bar's: the close button of the tab at \a index was clicked.
+    void tabCloseRequested(int index);
+
+private Q_SLOTS:
+    void slot_currIndexChanged(int index);
+    void slot_tabClosed(int index);
+
+private:
+    void initUi();
+
+    TabBarRd *m_tabBar = nullptr;
+    QVector<QPointer<QWidget>> m_leftWidgets;
+    QVector<QPointer<QWidget>> m_rightWidgets;
+    QVector<QPointer<QWidget>> m_centerWidgets;
+    QHBoxLayout *m_leftLayout = nullptr;
+    QHBoxLayout *m_rightLayout = nullptr;
+    QHBoxLayout *m_centerLayout = nullptr;
+    QSpacerItem *m_spacer = nullptr;
+    QColor m_widgetColor;
+    int m_tabMaxWidth = 0;
+    int m_tabMinWidth = 0;
+    TabBarRd::TabBarType m_tabBarType = TabBarRd::TabsByContent;
+};
+
+#endif // NQTABBAR_H
