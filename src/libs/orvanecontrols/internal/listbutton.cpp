@@ -1,0 +1,26 @@
+#include "listbutton.h"
+
+namespace orvane
+{
+
+void ListButton::mouseReleaseEvent(QMouseEvent *event)
+{
+    // Past QToolButton, whose handler touches the button after clicked(). All it does there is to
+    // forget a press on a menu arrow, which this button does not have.
+    QAbstractButton::mouseReleaseEvent(event); // NOLINT(bugprone-parent-virtual-call)
+}
+
+QString listButtonSheet(const QString &name)
+{
+    const QString image =
+        "{border-image: url(:/Resource/Images/globalResource/listwidget/" + name + "_";
+    return "QToolButton" + image
+        + "normal.png);}"
+          "QToolButton:hover"
+        + image
+        + "hover.png);}"
+          "QToolButton:pressed"
+        + image + "pressed.png);}";
+}
+
+} // namespace orvane
