@@ -1,6 +1,6 @@
 # What every target of this project is built with: the language level, the warnings, the cache.
 
-find_package(Qt5 5.12 REQUIRED COMPONENTS Core Gui Widgets)
+find_package(Qt5 5.14 REQUIRED COMPONENTS Core Gui Widgets)
 
 set(CMAKE_CXX_STANDARD 17)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
