@@ -39,6 +39,8 @@ class Page;
     PAGE("Cabinet panels", WidgetContent)                                                          \
     PAGE("Cabinet panels", ShapeWidget)                                                            \
     PAGE("Cabinet panels", ShapeWidgetContent)                                                     \
+    PAGE("Window and dialogs", WindowTitle)                                                        \
+    PAGE("Window and dialogs", WindowFrame)                                                        \
     PAGE("Foundation", DefineCommonData)                                                           \
     PAGE("Foundation", Images)
 
