@@ -1004,6 +1004,8 @@ private Q_SLOTS:
         frame->SetRubberBandShape(static_cast<RubberBandShape>(9));
         frame->SetRubberBandLineStyle("QDialog{}");
         QVERIFY(takeDebugMessages().isEmpty());
+        delete frame->GetBaseFrameLayout();
+        QVERIFY(!frame->GetBaseFrameLayout());
         delete frame->GetTitleWidget();
         QVERIFY(!frame->GetTitleWidget());
         frame->SetTitleBarVisable(true);
