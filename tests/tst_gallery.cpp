@@ -90,6 +90,13 @@ private Q_SLOTS:
                                  "WidgetContent",
                                  "ShapeWidget",
                                  "ShapeWidgetContent",
+                                 "CustomMessageBox",
+                                 "CustomMegBox",
+                                 "CustomWidget",
+                                 "NQToolButton",
+                                 "TabBarRd",
+                                 "NQTabBar",
+                                 "NQTabWidget",
                                  "DefineCommonData",
                                  "Images"})
             QCOMPARE(names.count(name), 1);

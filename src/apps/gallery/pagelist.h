@@ -39,6 +39,13 @@ class Page;
     PAGE("Cabinet panels", WidgetContent)                                                          \
     PAGE("Cabinet panels", ShapeWidget)                                                            \
     PAGE("Cabinet panels", ShapeWidgetContent)                                                     \
+    PAGE("Window and dialogs", CustomMessageBox)                                                   \
+    PAGE("Window and dialogs", CustomMegBox)                                                       \
+    PAGE("Window and dialogs", CustomWidget)                                                       \
+    PAGE("Tabs", NQToolButton)                                                                     \
+    PAGE("Tabs", TabBarRd)                                                                         \
+    PAGE("Tabs", NQTabBar)                                                                         \
+    PAGE("Tabs", NQTabWidget)                                                                      \
     PAGE("Foundation", DefineCommonData)                                                           \
     PAGE("Foundation", Images)
 
