@@ -93,6 +93,13 @@ private Q_SLOTS:
                                  "TableWidgetEx",
                                  "TableWidgetCustom",
                                  "NewTableWidget",
+                                 "CustomMessageBox",
+                                 "CustomMegBox",
+                                 "CustomWidget",
+                                 "NQToolButton",
+                                 "TabBarRd",
+                                 "NQTabBar",
+                                 "NQTabWidget",
                                  "DefineCommonData",
                                  "Images"})
             QCOMPARE(names.count(name), 1);
