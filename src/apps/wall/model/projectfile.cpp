@@ -1,11 +1,13 @@
 #include "projectfile.h"
 
+#include <QByteArrayList>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QSaveFile>
 #include <QSet>
 #include <QStringList>
+#include <QVariant>
 
 #include <cmath>
 #include <limits>
@@ -34,12 +36,41 @@ QString quoted(const QString &text)
     return QLatin1Char('"') + text + QLatin1Char('"');
 }
 
-QByteArray jsonText(const QJsonValue &value)
+QByteArray jsonText(const QJsonValue &value);
+
+QByteArray scalarText(const QJsonValue &value)
 {
+    // Whole numbers would lose digits on Qt's way to text, which is by way of a double.
+    const QVariant variant = value.toVariant();
+    if (variant.userType() == QMetaType::LongLong)
+        return QByteArray::number(variant.toLongLong());
     // A document has to be an array or an object.
     const QByteArray array =
         QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::JsonFormat::Compact);
     return array.mid(1, array.size() - 2);
+}
+
+/// The members of an object without its braces, each as \c "name": value.
+QByteArrayList memberTexts(const QJsonObject &object)
+{
+    QByteArrayList texts;
+    for (auto member = object.begin(); member != object.end(); ++member)
+        texts.append(scalarText(member.key()) + ": " + jsonText(member.value()));
+    return texts;
+}
+
+/// A value in one line.
+QByteArray jsonText(const QJsonValue &value)
+{
+    if (value.isObject())
+        return '{' + memberTexts(value.toObject()).join(", ") + '}';
+    if (!value.isArray())
+        return scalarText(value);
+    QByteArrayList texts;
+    const QJsonArray array = value.toArray();
+    for (const QJsonValue &element : array)
+        texts.append(jsonText(element));
+    return '[' + texts.join(", ") + ']';
 }
 
 /// A value as a message shows it.
@@ -481,10 +512,12 @@ LoadResult cancelledLoading()
     return result;
 }
 
-/// "line 3, column 14", both counted from 1 and the column in characters.
-QString lineAndColumn(const QByteArray &json, int offset)
+/// "line 3, column 14", both counted from 1 and the column in characters: where the parser stopped.
+QString stoppedAt(const QByteArray &json, const QJsonParseError &error)
 {
-    const QByteArray before = json.left(offset);
+    // Mostly it has taken the character that it does not like; not so behind the last value.
+    const bool isTaken = error.error != QJsonParseError::GarbageAtEnd && error.offset < json.size();
+    const QByteArray before = json.left(qMax(0, isTaken ? error.offset - 1 : error.offset));
     const int line = before.count('\n') + 1;
     const QByteArray lineBefore = before.mid(before.lastIndexOf('\n') + 1);
     const int column = QString::fromUtf8(lineBefore).toUcs4().size() + 1;
@@ -496,35 +529,28 @@ bool goesOn(const Progress &progress, int percent)
     return !progress || progress(percent);
 }
 
-/// Composes the members of an object in one line, the given ones first, then those it keeps.
+/// Composes the members of an object, the given ones first, then those it keeps.
 class ObjectText
 {
 public:
     ObjectText &add(const char *name, const QByteArray &json)
     {
-        m_text += m_text.isEmpty() ? "\"" : ", \"";
-        m_text += name;
-        m_text += "\": ";
-        m_text += json;
+        m_members.append('"' + QByteArray(name) + "\": " + json);
         return *this;
     }
-    ObjectText &add(const char *name, const QString &text) { return add(name, jsonText(text)); }
+    ObjectText &add(const char *name, const QString &text) { return add(name, scalarText(text)); }
     ObjectText &add(const char *name, int number) { return add(name, QByteArray::number(number)); }
-    ObjectText &add(const char *name, double number) { return add(name, jsonText(number)); }
+    ObjectText &add(const char *name, double number) { return add(name, scalarText(number)); }
     ObjectText &add(const QJsonObject &extra)
     {
-        if (extra.isEmpty())
-            return *this;
-        const QByteArray object = QJsonDocument(extra).toJson(QJsonDocument::JsonFormat::Compact);
-        m_text += m_text.isEmpty() ? "" : ", ";
-        m_text += object.mid(1, object.size() - 2);
+        m_members += memberTexts(extra);
         return *this;
     }
-    QByteArray members() const { return m_text; }
-    QByteArray object() const { return '{' + m_text + '}'; }
+    QByteArray members(const QByteArray &separator) const { return m_members.join(separator); }
+    QByteArray object() const { return '{' + members(", ") + '}'; }
 
 private:
-    QByteArray m_text;
+    QByteArrayList m_members;
 };
 
 QByteArray modelText(const CabinetModel &model)
@@ -598,7 +624,7 @@ private:
     {
         auto found = m_names.find(id);
         if (found == m_names.end())
-            found = m_names.insert(id, jsonText(id));
+            found = m_names.insert(id, scalarText(id));
         return *found;
     }
 
@@ -627,7 +653,7 @@ bool writeProject(QIODevice *device, const ProjectData &data, Steps *steps)
                                 .add("version", projectFileVersion)
                                 .add("name", data.name)
                                 .add(data.extra)
-                                .members();
+                                .members(",\n    ");
     device->write("{\n    " + head);
     CabinetTexts cabinets;
     return writeList(device, "models", data.models, modelText, steps)
@@ -678,10 +704,12 @@ LoadResult parseProject(const QByteArray &json, const QString &file, const Progr
 {
     if (!goesOn(progress, readPercent))
         return cancelledLoading();
+    if (json.trimmed().isEmpty())
+        return failure(file, {}, QStringLiteral("is empty"));
     QJsonParseError syntax;
     const QJsonDocument document = QJsonDocument::fromJson(json, &syntax);
     if (syntax.error != QJsonParseError::NoError) {
-        return failure(file, lineAndColumn(json, syntax.offset), syntax.errorString());
+        return failure(file, stoppedAt(json, syntax), syntax.errorString());
     }
     if (!document.isObject())
         return failure(file, {}, QStringLiteral("there is a list at the top, not an object"));
@@ -703,27 +731,31 @@ LoadResult parseProject(const QByteArray &json, const QString &file, const Progr
 SaveResult saveProject(const QString &file, const ProjectData &data, const Progress &progress)
 {
     SaveResult result;
-    const auto failed = [&result, &file](const QSaveFile &device) {
-        result.error = {file, {}, QStringLiteral("cannot be saved: %1").arg(device.errorString())};
-        return result;
-    };
     result.state = SaveResult::Cancelled;
     if (!goesOn(progress, 0))
         return result;
+    const auto failed = [&result, &file](const QString &problem) {
+        result.state = SaveResult::Failed;
+        result.error = {file, {}, QStringLiteral("cannot be saved: ") + problem};
+        return result;
+    };
     QSaveFile device(file);
-    result.state = SaveResult::Failed;
     if (!device.open(QIODevice::WriteOnly))
-        return failed(device);
+        return failed(device.errorString());
     Steps steps(progress, 0,
                 qint64(data.models.size()) + data.senders.size() + data.cabinets.size());
-    const bool isWritten = writeProject(&device, data, &steps);
-    if (steps.isCancelled() || (isWritten && !goesOn(progress, allPercent))) {
-        device.cancelWriting();
-        result.state = SaveResult::Cancelled;
+    // A commit does not see that its own last flush failed, so that is done before.
+    const bool isWritten = writeProject(&device, data, &steps) && device.flush();
+    if (steps.isCancelled())
         return result;
+    if (!isWritten) {
+        return failed(
+            QStringLiteral("not all of it could be written (%1)").arg(device.errorString()));
     }
-    if (!isWritten || !device.commit())
-        return failed(device);
+    if (!goesOn(progress, allPercent))
+        return result;
+    if (!device.commit())
+        return failed(device.errorString());
     result.state = SaveResult::Saved;
     return result;
 }
