@@ -18,8 +18,8 @@ namespace wall
 namespace
 {
 
-constexpr qint64 maxFileSize = 1024 * 1024 * 1024;
-constexpr qint64 chunkSize = 1024 * 1024;
+constexpr int maxFileSize = 1024 * 1024 * 1024;
+constexpr int chunkSize = 1024 * 1024;
 constexpr int maxShownValue = 40; ///< Characters of a wrong value that a message shows.
 
 // How far loading has come, in percent, when the file is read and when its text is parsed.
@@ -27,9 +27,20 @@ constexpr int readPercent = 30;
 constexpr int parsedPercent = 50;
 constexpr int allPercent = 100;
 
-constexpr QLatin1String formatName("orvane-wall");
-constexpr QLatin1String networkKind("network");
-constexpr QLatin1String coaxialKind("coaxial");
+QString formatName()
+{
+    return QStringLiteral("orvane-wall");
+}
+
+QString networkKind()
+{
+    return QStringLiteral("network");
+}
+
+QString coaxialKind()
+{
+    return QStringLiteral("coaxial");
+}
 
 QString quoted(const QString &text)
 {
@@ -182,7 +193,7 @@ public:
     /// A text that names something.
     QString id(const QString &name)
     {
-        const QString id = text(name);
+        QString id = text(name);
         if (id.isEmpty())
             fail(name, QStringLiteral("the text is empty"));
         return id;
@@ -311,9 +322,9 @@ ProjectData Reader::read(const QJsonObject &root)
     ObjectReader object(root, top, &m_problem);
 
     const QString format = object.text(QStringLiteral("format"));
-    if (format != formatName) {
+    if (format != formatName()) {
         object.fail(QStringLiteral("format"),
-                    QStringLiteral("%1 is not %2").arg(quoted(format), quoted(formatName)));
+                    QStringLiteral("%1 is not %2").arg(quoted(format), quoted(formatName())));
     }
     const int version =
         object.wholeNumber(QStringLiteral("version"), 1, std::numeric_limits<int>::max());
@@ -414,12 +425,12 @@ Port Reader::readPort(const QJsonValue &value, const Place &place)
     Port port;
     port.number = object.wholeNumber(QStringLiteral("number"), minPortNumber, maxPortNumber);
     const QString kind = object.text(QStringLiteral("kind"));
-    if (kind == coaxialKind) {
+    if (kind == coaxialKind()) {
         port.kind = PortKind::Coaxial;
-    } else if (kind != networkKind) {
+    } else if (kind != networkKind()) {
         object.fail(QStringLiteral("kind"),
                     QStringLiteral("%1 is neither %2 nor %3")
-                        .arg(shown(kind), quoted(networkKind), quoted(coaxialKind)));
+                        .arg(shown(kind), quoted(networkKind()), quoted(coaxialKind())));
     }
     const Place stock{&place, QStringLiteral("stock")};
     const QJsonArray stockList = object.optionalList(stock.member);
@@ -490,7 +501,7 @@ PlacedCabinet Reader::readCabinet(const QJsonValue &value, const Place &place)
 
 QString Reader::knownModel(ObjectReader *object)
 {
-    const QString id = object->text(QStringLiteral("model"));
+    QString id = object->text(QStringLiteral("model"));
     const auto found = m_modelIds.constFind(id);
     if (found != m_modelIds.cend())
         return *found;
@@ -581,7 +592,7 @@ QByteArray portText(const Port &port)
     }
     return ObjectText()
         .add("number", port.number)
-        .add("kind", port.kind == PortKind::Coaxial ? coaxialKind : networkKind)
+        .add("kind", port.kind == PortKind::Coaxial ? coaxialKind() : networkKind())
         .add("stock", '[' + stock.join(", ") + ']')
         .add(port.extra)
         .object();
@@ -649,7 +660,7 @@ bool writeList(QIODevice *device, const char *name, const QVector<Element> &elem
 bool writeProject(QIODevice *device, const ProjectData &data, Steps *steps)
 {
     const QByteArray head = ObjectText()
-                                .add("format", formatName)
+                                .add("format", formatName())
                                 .add("version", projectFileVersion)
                                 .add("name", data.name)
                                 .add(data.extra)
@@ -693,8 +704,8 @@ LoadResult loadProject(const QString &file, const Progress &progress)
         json += chunk;
         if (json.size() > maxFileSize)
             return failure(file, {}, QStringLiteral("is larger than 1 GiB"));
-        const qint64 known = qMax<qint64>(size, json.size());
-        if (!goesOn(progress, int(readPercent * json.size() / known)))
+        const qint64 done = json.size();
+        if (!goesOn(progress, int(readPercent * done / qMax(size, done))))
             return cancelledLoading();
     }
     return parseProject(json, file, progress);
