@@ -52,7 +52,6 @@ void setButtonSize(QWidget *frame, QWidget *button, int w, int h)
 CustomMessageBox::CustomMessageBox(QWidget *parent)
     : QDialog(parent)
     , m_ui(std::make_unique<Ui::CustomMessageBox>())
-    , m_result(CloseResult)
 {
     m_ui->setupUi(this);
     setWindowIcon(QIcon(":/Resource/Image/logo.png"));
