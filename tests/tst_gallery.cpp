@@ -90,6 +90,13 @@ private Q_SLOTS:
                                  "WidgetContent",
                                  "ShapeWidget",
                                  "ShapeWidgetContent",
+                                 "ListWidgetEx",
+                                 "CustomListWidgetItem",
+                                 "ListWidgetTitle",
+                                 "EquipListWidget",
+                                 "CustomListWidgetMulItem",
+                                 "TreeViewEx",
+                                 "TreeItem",
                                  "DefineCommonData",
                                  "Images"})
             QCOMPARE(names.count(name), 1);

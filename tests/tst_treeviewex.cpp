@@ -81,6 +81,7 @@ void deleteScheduled()
 
 } // namespace
 
+Q_DECLARE_METATYPE(QTreeWidgetItem *)
 Q_DECLARE_METATYPE(Qt::CheckState)
 Q_DECLARE_METATYPE(Qt::MouseButton)
 

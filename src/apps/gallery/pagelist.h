@@ -39,6 +39,13 @@ class Page;
     PAGE("Cabinet panels", WidgetContent)                                                          \
     PAGE("Cabinet panels", ShapeWidget)                                                            \
     PAGE("Cabinet panels", ShapeWidgetContent)                                                     \
+    PAGE("Lists, tables and trees", ListWidgetEx)                                                  \
+    PAGE("Lists, tables and trees", CustomListWidgetItem)                                          \
+    PAGE("Lists, tables and trees", ListWidgetTitle)                                               \
+    PAGE("Lists, tables and trees", EquipListWidget)                                               \
+    PAGE("Lists, tables and trees", CustomListWidgetMulItem)                                       \
+    PAGE("Lists, tables and trees", TreeViewEx)                                                    \
+    PAGE("Lists, tables and trees", TreeItem)                                                      \
     PAGE("Foundation", DefineCommonData)                                                           \
     PAGE("Foundation", Images)
 
