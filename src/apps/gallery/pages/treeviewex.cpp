@@ -63,7 +63,7 @@ GALLERY_PAGE(TreeViewEx)
     page.look("Selected", [size](QWidget *parent) { return makeSelected(makeTree(parent, size)); });
 
     using W = TreeViewEx;
-    W *tree = page.tryIt(makeTree(nullptr, {290, 320}));
+    W *tree = page.tryIt(makeTree(nullptr, {260, 320}));
     addFamily(tree, "Tarnholt", 4, 6, true);
     theme::styleScrollBars(tree);
     page.event(tree, "itemClicked", &W::itemClicked);
