@@ -38,12 +38,12 @@ QColor ofModel(int index)
 
 QColor ofPort(int index)
 {
-    return QColor::fromHsv(hueOf(index), 105, 112);
+    return QColor::fromHsv(hueOf(index), 105, 112).rgb();
 }
 
 QColor ofLine(int index)
 {
-    return QColor::fromHsv(hueOf(index), 130, 232);
+    return QColor::fromHsv(hueOf(index), 130, 232).rgb();
 }
 
 QColor dimmed(const QColor &color)

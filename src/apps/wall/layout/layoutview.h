@@ -50,7 +50,7 @@ class LayoutView : public QGraphicsView
     Q_OBJECT
 
 public:
-    static constexpr double minZoom = 0.0001;
+    static constexpr double minZoom = 0.00001;
     static constexpr double maxZoom = 8.0;
     static constexpr double zoomStep = 1.25;
     static constexpr int mostZoomLevel = 100;
