@@ -23,9 +23,33 @@ QSize screenSize()
     return QGuiApplication::primaryScreen()->availableSize();
 }
 
+QtMessageHandler otherHandler = nullptr;
+
+void passUnlessAboutLayouts(QtMsgType type, const QMessageLogContext &context, const QString &text)
+{
+    if (!text.startsWith("QLayout: ") && !text.startsWith("QLayout::"))
+        otherHandler(type, context, text);
+}
+
 } // namespace
 
+HostFrame::QuietConstruction::QuietConstruction()
+{
+    otherHandler = qInstallMessageHandler(passUnlessAboutLayouts);
+}
+
+HostFrame::QuietConstruction::~QuietConstruction()
+{
+    qInstallMessageHandler(otherHandler);
+}
+
 HostFrame::HostFrame(const QSize &normalSize, const QSize &smallestSize, QWidget *parent)
+    : HostFrame(QuietConstruction(), normalSize, smallestSize, parent)
+{
+}
+
+HostFrame::HostFrame(const QuietConstruction & /*quiet*/, const QSize &normalSize,
+                     const QSize &smallestSize, QWidget *parent)
     : WindowFrame(screenSize(), screenSize(), normalSize.boundedTo(screenSize()), parent)
     , m_maximumSize(screenSize())
 {
@@ -64,6 +88,12 @@ bool HostFrame::isMaximizedFrame() const
     return size() == m_maximumSize;
 }
 
+void HostFrame::resizeFrame(const QSize &size)
+{
+    SetFrameCurSize(size);
+    rebuildUI();
+}
+
 bool HostFrame::mayClose()
 {
     return true;
@@ -95,8 +125,7 @@ void HostFrame::mouseMoveEvent(QMouseEvent *event)
         return;
     }
     const QRect target = GetNewWindowRect(pos(), event->globalPos()).toRect();
-    SetFrameCurSize(target.size());
-    rebuildUI();
+    resizeFrame(target.size());
     move(target.topLeft());
 }
 
@@ -115,8 +144,6 @@ void HostFrame::followScreen()
     const bool wasMaximized = isMaximizedFrame();
     m_maximumSize = screenSize();
     SetFrameMaxSize(m_maximumSize);
-    if (wasMaximized) {
-        SetFrameCurSize(m_maximumSize);
-        rebuildUI();
-    }
+    if (wasMaximized)
+        resizeFrame(m_maximumSize);
 }

@@ -24,6 +24,9 @@ public:
     /// Whether it covers the screen.
     bool isMaximizedFrame() const;
 
+    /// Gives the window a size of its own, in pixels.
+    void resizeFrame(const QSize &size);
+
 protected:
     /// Whether the window may close now; a host asks here for what has to be saved.
     virtual bool mayClose();
@@ -34,6 +37,17 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
+    /// Keeps from the log what the frame's construction makes Qt say about layouts.
+    class QuietConstruction
+    {
+    public:
+        QuietConstruction();
+        ~QuietConstruction();
+        Q_DISABLE_COPY_MOVE(QuietConstruction)
+    };
+
+    HostFrame(const QuietConstruction &quiet, const QSize &normalSize, const QSize &smallestSize,
+              QWidget *parent);
     void followScreen();
 
     QSize m_maximumSize;

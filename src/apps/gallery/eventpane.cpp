@@ -105,6 +105,7 @@ void EventPane::add(const QString &className, const QString &signal)
     m_list->scrollToBottom();
     m_count->setText(QString::number(m_number));
     m_clearButton->setEnabled(true);
+    Q_EMIT countChanged(m_number);
 }
 
 void EventPane::clear()
@@ -113,4 +114,5 @@ void EventPane::clear()
     m_list->clear();
     m_count->setText("none yet");
     m_clearButton->setEnabled(false);
+    Q_EMIT countChanged(0);
 }

@@ -18,6 +18,10 @@ public:
     /// Adds a line: who emitted, and the signal with its arguments.
     void add(const QString &className, const QString &signal);
 
+Q_SIGNALS:
+    /// How many events are listed, or were since the last clearing.
+    void countChanged(int count);
+
 private:
     void clear();
 

@@ -1,4 +1,5 @@
 #include "fontsubstitutes.h"
+#include "galleryview.h"
 #include "gallerywindow.h"
 #include "pagelist.h"
 #include "render.h"
@@ -137,7 +138,7 @@ int main(int argc, char **argv)
         return error.isEmpty() ? 0 : fail(error).exitStatus;
     }
     GalleryWindow window;
-    window.showPage(request.pages.first());
+    window.view()->showPage(request.pages.first());
     window.show();
     return QApplication::exec();
 }

@@ -4,54 +4,24 @@
 #include "pagelist.h"
 #include "theme.h"
 
+#include <treeviewex.h>
+
 #include <QKeyEvent>
-#include <QListWidget>
-#include <QPainter>
 #include <QStyledItemDelegate>
 #include <QVBoxLayout>
 
 namespace
 {
 
-constexpr int isHeadingRole = Qt::UserRole;
-
-class NavigationDelegate : public QStyledItemDelegate
+/// Rows as high as the gallery's controls.
+class RowDelegate : public QStyledItemDelegate
 {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
-    QSize sizeHint(const QStyleOptionViewItem &, const QModelIndex &index) const override
+    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override
     {
-        const bool isHeading = index.data(isHeadingRole).toBool();
-        return {0, isHeading && index.row() > 0 ? 10 * theme::unit : theme::controlHeight};
-    }
-
-    void paint(QPainter *painter, const QStyleOptionViewItem &option,
-               const QModelIndex &index) const override
-    {
-        const bool isHeading = index.data(isHeadingRole).toBool();
-        const QRect row = option.rect.adjusted(theme::gap, 0, -theme::gap, 0);
-        QRect textRect = row.adjusted(theme::gap, 0, -theme::gap, 0);
-        painter->save();
-        if (isHeading) {
-            textRect.setTop(textRect.bottom() - theme::controlHeight);
-            painter->setFont(theme::headingFont());
-            painter->setPen(theme::quietText);
-        } else {
-            const bool isSelected = option.state & QStyle::State_Selected;
-            const bool isHovered = option.state & QStyle::State_MouseOver;
-            if (isSelected || isHovered) {
-                painter->setRenderHint(QPainter::Antialiasing);
-                painter->setPen(Qt::NoPen);
-                painter->setBrush(isSelected ? theme::accent : theme::raised);
-                painter->drawRoundedRect(row, theme::cornerRadius, theme::cornerRadius);
-            }
-            painter->setPen(isSelected ? QColor(Qt::white) : theme::text);
-        }
-        painter->drawText(textRect, Qt::AlignVCenter | Qt::AlignLeft,
-                          painter->fontMetrics().elidedText(index.data().toString(), Qt::ElideRight,
-                                                            textRect.width()));
-        painter->restore();
+        return {QStyledItemDelegate::sizeHint(option, index).width(), theme::controlHeight};
     }
 };
 
@@ -60,73 +30,67 @@ public:
 Navigation::Navigation(QWidget *parent)
     : QWidget(parent)
     , m_filter(new TextField(this))
-    , m_list(new QListWidget(this))
+    , m_tree(new TreeViewEx(this))
 {
-    setAutoFillBackground(true);
-    QPalette ground = palette();
-    ground.setColor(QPalette::Window, theme::well);
-    setPalette(ground);
-
     m_filter->setPlaceholderText("Filter (Ctrl+F)");
     m_filter->setAccessibleName("Filter the pages");
-    m_filter->setBackgroundColor(theme::ground);
+    m_filter->setBackgroundColor(theme::well);
     m_filter->installEventFilter(this);
 
-    m_list->setFrameShape(QFrame::NoFrame);
-    m_list->setItemDelegate(new NavigationDelegate(m_list));
-    m_list->setMouseTracking(true);
-    m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_list->setAccessibleName("Pages");
-    theme::styleScrollBars(m_list);
+    m_tree->setItemDelegate(new RowDelegate(m_tree));
+    m_tree->setMouseTracking(true);
+    m_tree->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_tree->setAccessibleName("Pages");
+    theme::styleScrollBars(m_tree);
 
-    QString group;
+    QTreeWidgetItem *group = nullptr;
     for (const PageInfo &page : pageList()) {
-        if (page.group != group) {
-            group = page.group;
-            auto *heading = new QListWidgetItem(group, m_list);
-            heading->setData(isHeadingRole, true);
-            heading->setFlags(Qt::NoItemFlags);
+        if (!group || group->text(0) != page.group) {
+            group = new QTreeWidgetItem(m_tree, {page.group});
+            group->setFont(0, theme::headingFont());
         }
-        new QListWidgetItem(page.name, m_list);
+        new QTreeWidgetItem(group, {page.name});
     }
+    m_tree->expandAll();
+
+    auto *aboutButton = makeButton("&About", NoActivatedBtn, this);
+    aboutButton->setToolTip("What this is (F1)");
 
     auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setContentsMargins(theme::gap, theme::gap, theme::gap, theme::gap);
     layout->setSpacing(theme::gap);
-    auto *filterLayout = new QVBoxLayout;
-    filterLayout->setContentsMargins(theme::gap, theme::margin, theme::gap, 0);
-    filterLayout->addWidget(m_filter);
-    layout->addLayout(filterLayout);
-    layout->addWidget(m_list, 1);
+    layout->addWidget(m_filter);
+    layout->addWidget(m_tree, 1);
+    layout->addWidget(aboutButton, 0, Qt::AlignLeft);
 
+    connect(aboutButton, &QPushButton::clicked, this, &Navigation::aboutAsked);
     connect(m_filter, &QLineEdit::textChanged, this, &Navigation::applyFilter);
-    connect(m_list, &QListWidget::currentItemChanged, this, [this](QListWidgetItem *item) {
-        if (item && !item->data(isHeadingRole).toBool())
-            Q_EMIT pageChosen(item->text());
+    connect(m_tree, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem *item) {
+        if (item && item->parent())
+            Q_EMIT pageChosen(item->text(0));
     });
 }
 
 void Navigation::setCurrentPage(const QString &name)
 {
-    for (int row = 0; row < m_list->count(); ++row) {
-        QListWidgetItem *item = m_list->item(row);
-        if (!item->data(isHeadingRole).toBool() && item->text() == name) {
-            m_list->setCurrentItem(item);
-            return;
-        }
+    const QList<QTreeWidgetItem *> all = pages();
+    for (QTreeWidgetItem *page : all) {
+        if (page->text(0) == name)
+            m_tree->setCurrentItem(page);
     }
 }
 
 void Navigation::step(int direction)
 {
-    for (int row = m_list->currentRow() + direction; row >= 0 && row < m_list->count();
-         row += direction) {
-        QListWidgetItem *item = m_list->item(row);
-        if (!item->isHidden() && !item->data(isHeadingRole).toBool()) {
-            m_list->setCurrentItem(item);
-            return;
-        }
-    }
+    QList<QTreeWidgetItem *> shown = pages();
+    shown.erase(std::remove_if(shown.begin(), shown.end(),
+                               [](const QTreeWidgetItem *page) { return page->isHidden(); }),
+                shown.end());
+    // From a group, or from nowhere, to its end or its beginning.
+    const int current = shown.indexOf(m_tree->currentItem());
+    const int next = current < 0 && direction < 0 ? shown.size() - 1 : current + direction;
+    if (next >= 0 && next < shown.size())
+        m_tree->setCurrentItem(shown.at(next));
 }
 
 void Navigation::focusFilter()
@@ -135,31 +99,34 @@ void Navigation::focusFilter()
     m_filter->selectAll();
 }
 
-QWidget *Navigation::list() const
-{
-    return m_list;
-}
-
 void Navigation::applyFilter(const QString &text)
 {
-    // A heading stays as long as one of its pages does.
-    QListWidgetItem *heading = nullptr;
-    for (int row = 0; row < m_list->count(); ++row) {
-        QListWidgetItem *item = m_list->item(row);
-        if (item->data(isHeadingRole).toBool()) {
-            heading = item;
-            heading->setHidden(true);
-            continue;
-        }
-        const bool matches = item->text().contains(text.trimmed(), Qt::CaseInsensitive);
-        item->setHidden(!matches);
-        if (matches && heading)
-            heading->setHidden(false);
+    for (int i = 0; i < m_tree->topLevelItemCount(); ++i)
+        m_tree->topLevelItem(i)->setHidden(true);
+    const QList<QTreeWidgetItem *> all = pages();
+    for (QTreeWidgetItem *page : all) {
+        const bool matches = page->text(0).contains(text.trimmed(), Qt::CaseInsensitive);
+        page->setHidden(!matches);
+        // A group stays as long as one of its pages does.
+        if (matches)
+            page->parent()->setHidden(false);
     }
-    if (!m_list->currentItem() || m_list->currentItem()->isHidden()) {
-        m_list->setCurrentRow(-1);
+    if (!m_tree->currentItem() || m_tree->currentItem()->isHidden()) {
+        m_tree->setCurrentItem(nullptr);
         step(1);
     }
+}
+
+/// All pages from the first to the last, those included that the filter hides.
+QList<QTreeWidgetItem *> Navigation::pages() const
+{
+    QList<QTreeWidgetItem *> pages;
+    for (int i = 0; i < m_tree->topLevelItemCount(); ++i) {
+        QTreeWidgetItem *group = m_tree->topLevelItem(i);
+        for (int j = 0; j < group->childCount(); ++j)
+            pages.append(group->child(j));
+    }
+    return pages;
 }
 
 bool Navigation::eventFilter(QObject *watched, QEvent *event)
@@ -174,7 +141,7 @@ bool Navigation::eventFilter(QObject *watched, QEvent *event)
             return true;
         case Qt::Key_Return:
         case Qt::Key_Enter:
-            m_list->setFocus(Qt::TabFocusReason);
+            m_tree->setFocus(Qt::TabFocusReason);
             return true;
         case Qt::Key_Escape:
             m_filter->clear();

@@ -1,12 +1,14 @@
 #ifndef GALLERY_NAVIGATION_H
 #define GALLERY_NAVIGATION_H
 
+#include <QList>
 #include <QWidget>
 
-class QListWidget;
+class QTreeWidgetItem;
 class TextField;
+class TreeViewEx;
 
-/// The list of pages by group, with a filter above it.
+/// The tree of pages by group, with a filter above it.
 class Navigation : public QWidget
 {
     Q_OBJECT
@@ -18,19 +20,20 @@ public:
     /// Goes to the next (1) or the previous (-1) page that the filter leaves.
     void step(int direction);
     void focusFilter();
-    QWidget *list() const;
 
 Q_SIGNALS:
     void pageChosen(const QString &name);
+    void aboutAsked();
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void applyFilter(const QString &text);
+    QList<QTreeWidgetItem *> pages() const;
 
     TextField *m_filter;
-    QListWidget *m_list;
+    TreeViewEx *m_tree;
 };
 
 #endif // GALLERY_NAVIGATION_H

@@ -1,5 +1,6 @@
 #include "render.h"
 
+#include "galleryview.h"
 #include "gallerywindow.h"
 #include "page.h"
 
@@ -15,6 +16,25 @@ namespace
 {
 
 constexpr QSize windowSize(1280, 800);
+
+/// Keeps from the log that platforms without a display have no size limits of windows.
+class QuietLimits
+{
+public:
+    QuietLimits() { otherHandler = qInstallMessageHandler(passUnlessAboutLimits); }
+    ~QuietLimits() { qInstallMessageHandler(otherHandler); }
+    Q_DISABLE_COPY_MOVE(QuietLimits)
+
+private:
+    static void passUnlessAboutLimits(QtMsgType type, const QMessageLogContext &context,
+                                      const QString &text)
+    {
+        if (!text.contains("propagateSizeHints"))
+            otherHandler(type, context, text);
+    }
+
+    inline static QtMessageHandler otherHandler = nullptr;
+};
 
 void settle()
 {
@@ -32,6 +52,18 @@ QString savePicture(QWidget *widget, int height, const QString &path)
     return QStringLiteral("cannot write \"%1\"").arg(QDir::toNativeSeparators(path));
 }
 
+QString renderWindow(const QString &page, const QString &path)
+{
+    GalleryWindow window;
+    window.resizeFrame(windowSize);
+    window.setAttribute(Qt::WA_DontShowOnScreen);
+    QuietLimits quiet;
+    window.show();
+    window.view()->showPage(page);
+    settle();
+    return savePicture(&window, window.height(), path);
+}
+
 } // namespace
 
 bool takesFiles(const QString &directory)
@@ -45,33 +77,30 @@ bool takesFiles(const QString &directory)
 QString renderPages(const QStringList &pages, const QString &directory)
 {
     const QDir target(directory);
-    GalleryWindow window;
-    window.resize(windowSize);
+    GalleryView view;
+    view.resize(windowSize);
     // Shown and active for the widgets, so that sizes and focus are as in a window; nothing
     // appears.
-    window.setAttribute(Qt::WA_DontShowOnScreen);
+    view.setAttribute(Qt::WA_DontShowOnScreen);
     // Platforms without a display complain about the size limits of windows.
-    window.layout()->setSizeConstraint(QLayout::SetNoConstraint);
-    window.show();
+    view.layout()->setSizeConstraint(QLayout::SetNoConstraint);
+    view.show();
     // A pressed cabinet draws a mark at the pointer's place on the screen, taken as its own.
     QCursor::setPos(QGuiApplication::primaryScreen()->geometry().bottomRight());
-    QApplication::setActiveWindow(&window);
+    QApplication::setActiveWindow(&view);
     for (const QString &name : pages) {
-        Page *page = window.showPage(name);
+        Page *page = view.showPage(name);
         settle();
         // As tall as it takes to show the page whole. Twice: it gets wider, and so perhaps lower,
         // when its scroll bar goes.
         for (int round = 0; round < 2; ++round) {
-            window.resize(window.width(),
-                          window.height() + qMax(0, page->fullHeight() - page->height()));
+            view.resize(view.width(), view.height() + qMax(0, page->fullHeight() - page->height()));
             settle();
         }
         QString error = savePicture(page, page->fullHeight(), target.filePath(name + ".png"));
         if (!error.isEmpty())
             return error;
-        window.resize(windowSize);
+        view.resize(windowSize);
     }
-    window.showPage(pages.first());
-    settle();
-    return savePicture(&window, window.height(), target.filePath("window.png"));
+    return renderWindow(pages.first(), target.filePath("window.png"));
 }

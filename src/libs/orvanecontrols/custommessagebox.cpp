@@ -100,6 +100,8 @@ void CustomMessageBox::setBoxInformation(QString title, QString text, QPixmap ic
     m_ui->frame_apply->setVisible(!hideApply);
     m_keepOpenOnApply = keepOpenOnApply;
     m_okButton->setDefault(true);
+    if (!hideOk)
+        m_okButton->setFocus(); // or Return would click the first button that has been made
 
     if (overflow <= 0)
         return;

@@ -28,8 +28,8 @@ class CustomMessageBox;
  * destroyed while the box is open, the box goes with it and exec() returns 0. CustomMegBox does all
  * this in one call.
  *
- * A box without a focused button answers Return and Enter like its OK button; a focused button
- * answers them itself.
+ * The OK button has the focus first. A focused button answers Return and Enter itself; a box
+ * without one answers them with 1.
  *
  * The pictures of the close button are the host's: it provides
  * ":/Resource/Image/titleBar/btn_close_normal@2x.png", "..._hover@2x.png" and "..._pressed@2x.png"

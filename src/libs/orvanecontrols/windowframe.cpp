@@ -221,6 +221,7 @@ void WindowFrame::BuildUI()
     setObjectName(QStringLiteral("WindowFrame"));
 
     m_rubberBand = new QDialog(this);
+    m_rubberBand->hide(); // as a child it would come up with the frame
     SetRubberBandShape(OutlineRubberBand);
 
     setWindowFlags((windowFlags() | Qt::FramelessWindowHint | Qt::WindowMinimizeButtonHint)

@@ -139,6 +139,9 @@ void WindowTitle::buildLogo()
     m_logoImage->setFixedSize(logoImageSize);
     m_logoText = new QLabel(this);
     m_logoText->setFixedSize(logoTextSize);
+    // They lie over the title's corner: moves without a button go on to its parent from there too.
+    m_logoImage->setMouseTracking(true);
+    m_logoText->setMouseTracking(true);
 
     // Hosts rely on labels that no layout moves. Qt refuses this layout, as the title has one, and
     // leaves it without a parent; as a child of the main layout it is owned, and not laid out.
