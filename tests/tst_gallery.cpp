@@ -90,6 +90,9 @@ private Q_SLOTS:
                                  "WidgetContent",
                                  "ShapeWidget",
                                  "ShapeWidgetContent",
+                                 "TableWidgetEx",
+                                 "TableWidgetCustom",
+                                 "NewTableWidget",
                                  "DefineCommonData",
                                  "Images"})
             QCOMPARE(names.count(name), 1);

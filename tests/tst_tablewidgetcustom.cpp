@@ -86,6 +86,13 @@ QStringList rowTexts(const QTableWidget &table)
     return texts;
 }
 
+/// Keeps from a widget the events by which Qt shows and hides its tool tips.
+class ToolTipEventEater : public QObject
+{
+public:
+    bool eventFilter(QObject *, QEvent *event) override { return event->type() == QEvent::ToolTip; }
+};
+
 QPoint cellCentre(const QTableWidget &table, int row, int column)
 {
     return table.visualRect(table.model()->index(row, column)).center();
@@ -127,8 +134,7 @@ private Q_SLOTS:
         QCOMPARE(table.styleSheet(), tableSheet);
         QCOMPARE(table.verticalScrollBar()->styleSheet(), verticalBarSheet);
         QCOMPARE(table.horizontalScrollBar()->styleSheet(), horizontalBarSheet);
-        QCOMPARE(rowTexts(table),
-                 (QStringList{"a1 a2 a3 a4", "b1 b2 b3 b4", "c1 c2 c3 c4"}));
+        QCOMPARE(rowTexts(table), (QStringList{"a1 a2 a3 a4", "b1 b2 b3 b4", "c1 c2 c3 c4"}));
     }
 
     void declaresOneSlot()
@@ -246,8 +252,7 @@ private Q_SLOTS:
         TableWidgetCustom table(records(3), headers, 3, 4);
         table.setRowHeight(1, 90);
         table.updateUi(records(3, 'x'));
-        QCOMPARE(rowTexts(table),
-                 (QStringList{"x1 x2 x3 x4", "y1 y2 y3 y4", "z1 z2 z3 z4"}));
+        QCOMPARE(rowTexts(table), (QStringList{"x1 x2 x3 x4", "y1 y2 y3 y4", "z1 z2 z3 z4"}));
         QCOMPARE(table.item(2, 0)->textAlignment(), int(Qt::AlignCenter));
         QCOMPARE(table.rowHeight(1), 40);
 
@@ -258,8 +263,7 @@ private Q_SLOTS:
         table.setTableRowCount(2);
         QCOMPARE(table.TableRowCount(), 2);
         table.updateUi(records(3, 'x'));
-        QCOMPARE(rowTexts(table),
-                 (QStringList{"x1 x2 x3 x4", "y1 y2 y3 y4", "c1 c2 c3 c4"}));
+        QCOMPARE(rowTexts(table), (QStringList{"x1 x2 x3 x4", "y1 y2 y3 y4", "c1 c2 c3 c4"}));
     }
 
     void rowsWithoutARecordStayAsTheyAre()
@@ -270,8 +274,7 @@ private Q_SLOTS:
         QCOMPARE(table.rowHeight(2), 40);
         table.updateUi(records(3));
         table.updateUi(records(1, 'x'));
-        QCOMPARE(rowTexts(table),
-                 (QStringList{"x1 x2 x3 x4", "b1 b2 b3 b4", "c1 c2 c3 c4"}));
+        QCOMPARE(rowTexts(table), (QStringList{"x1 x2 x3 x4", "b1 b2 b3 b4", "c1 c2 c3 c4"}));
         table.updateUi({});
         QCOMPARE(rowText(table, 0), QString("x1 x2 x3 x4"));
         QVERIFY(pointer::showAndWait(&table));
@@ -371,8 +374,7 @@ private Q_SLOTS:
         table.resize(400, 300);
         QVERIFY(pointer::showAndWait(&table));
         table.insertHotBackUpInfo(backup("x"));
-        QCOMPARE(rowTexts(table),
-                 (QStringList{"a1 a2 a3 a4", "x1 x2 x3 x4", "b1 b2 b3 b4"}));
+        QCOMPARE(rowTexts(table), (QStringList{"a1 a2 a3 a4", "x1 x2 x3 x4", "b1 b2 b3 b4"}));
         QCOMPARE(table.TableRowCount(), 2);
         for (int column = 0; column < 4; ++column)
             QCOMPARE(table.item(1, column)->textAlignment(), int(Qt::AlignCenter));
@@ -401,8 +403,7 @@ private Q_SLOTS:
         TableWidgetCustom table(records(2), headers, 2, 4);
         table.setTableRowCount(3);
         table.insertHotBackUpInfo(backup("x"));
-        QCOMPARE(rowTexts(table),
-                 (QStringList{"a1 a2 a3 a4", "b1 b2 b3 b4", "x1 x2 x3 x4"}));
+        QCOMPARE(rowTexts(table), (QStringList{"a1 a2 a3 a4", "b1 b2 b3 b4", "x1 x2 x3 x4"}));
         QCOMPARE(table.item(2, 3)->textAlignment(), int(Qt::AlignCenter));
         QCOMPARE(table.rowHeight(2), 40);
         table.setTableRowCount(5);
@@ -482,9 +483,14 @@ private Q_SLOTS:
         TableWidgetCustom table(records(3), headers, 3, 4);
         table.resize(400, 300);
         QVERIFY(pointer::showAndWait(&table));
+        // Within a cell, where nothing is entered or left: Qt hides a tool tip on that by itself.
+        const QPoint centre = cellCentre(table, 2, 2);
+        pointer::moveTo(table.viewport(), centre);
+        ToolTipEventEater eater;
+        table.viewport()->installEventFilter(&eater);
         QToolTip::showText(table.mapToGlobal(QPoint(10, 10)), "Tip", &table);
         QTRY_VERIFY(QToolTip::isVisible());
-        pointer::moveTo(table.viewport(), cellCentre(table, 2, 2));
+        pointer::moveTo(table.viewport(), centre + QPoint(5, 3));
         QTRY_VERIFY(!QToolTip::isVisible());
     }
 
@@ -547,9 +553,14 @@ private Q_SLOTS:
             return pointer::colorAt(&table, table.viewport()->mapTo(&table, corner + beside));
         };
         QCOMPARE(cellColor(0, 0), QColor(56, 56, 56));
+        pointer::moveTo(table.viewport(), cellCentre(table, 1, 1));
+        QCOMPARE(cellColor(1, 1), QColor(128, 128, 128)); // the hovered cell, not its row
+        QCOMPARE(cellColor(1, 2), QColor(56, 56, 56));
+        windowmouse::click(table.viewport(), Qt::LeftButton, cellCentre(table, 1, 1));
+        QCOMPARE(cellColor(1, 2), QColor(45, 46, 48)); // the selected row
         const QRect cell = table.visualRect(table.model()->index(0, 0));
-        QCOMPARE(pointer::colorAt(&table, table.viewport()->mapTo(&table, cell.bottomRight())
-                                      + QPoint(1, -5)),
+        QCOMPARE(pointer::colorAt(
+                     &table, table.viewport()->mapTo(&table, cell.bottomRight()) + QPoint(1, -5)),
                  QColor(69, 69, 69)); // grid line
     }
 
@@ -628,8 +639,7 @@ private Q_SLOTS:
         table.updateUi(records(3, 'x'));
         QVERIFY(count > 0);
         if (change == "no records")
-            QCOMPARE(rowTexts(table),
-                     (QStringList{"x1 x2 x3 x4", "b1 b2 b3 b4", "c1 c2 c3 c4"}));
+            QCOMPARE(rowTexts(table), (QStringList{"x1 x2 x3 x4", "b1 b2 b3 b4", "c1 c2 c3 c4"}));
         else if (change == "no rows")
             QCOMPARE(table.rowCount(), 0);
         else

@@ -48,22 +48,22 @@ QString sheetWith(const Values &v)
                     "tab_left_normal.png);}"
                     "QTabBar::tear{background:transparent;}";
     const QList<QPair<QString, QString>> values = {
-        {"WORKSPACE", v.workspace}, {"FONT", v.font},         {"PRESSED", v.pressedFont},
-        {"NORMAL", v.normal},       {"HOVER", v.hover},       {"SELECTED", v.selected},
-        {"WIDTH", v.width},         {"HEIGHT", v.height},     {"LEFT", v.left},
-        {"TOP", v.top}};
+        {"WORKSPACE", v.workspace}, {"FONT", v.font},
+        {"PRESSED", v.pressedFont}, {"NORMAL", v.normal},
+        {"HOVER", v.hover},         {"SELECTED", v.selected},
+        {"WIDTH", v.width},         {"HEIGHT", v.height},
+        {"LEFT", v.left},           {"TOP", v.top}};
     for (const auto &value : values)
         sheet.replace("<" + value.first + ">", value.second);
     return sheet;
 }
 
-const QString addButtonSheet =
-    "QToolButton{border-image: "
-    "url(:/Resource/Images/globalResource/tabwidget/add_normal.png);}"
-    "QToolButton:hover{border-image: "
-    "url(:/Resource/Images/globalResource/tabwidget/add_hover.png);}"
-    "QToolButton:pressed{border-image: "
-    "url(:/Resource/Images/globalResource/tabwidget/add_pressed.png);}";
+const QString addButtonSheet = "QToolButton{border-image: "
+                               "url(:/Resource/Images/globalResource/tabwidget/add_normal.png);}"
+                               "QToolButton:hover{border-image: "
+                               "url(:/Resource/Images/globalResource/tabwidget/add_hover.png);}"
+                               "QToolButton:pressed{border-image: "
+                               "url(:/Resource/Images/globalResource/tabwidget/add_pressed.png);}";
 
 const QString verticalBarSheet =
     "QScrollBar:vertical{width:12px;background:#454545;padding-top:12px;padding-bottom:12px;"
@@ -581,8 +581,7 @@ private Q_SLOTS:
         QCOMPARE(area->verticalScrollBar()->styleSheet(), QString());
         QCOMPARE(scrollAreaOf(second)->verticalScrollBar()->styleSheet(), verticalBarSheet);
         QCOMPARE(scrollAreaOf(second)->horizontalScrollBar()->styleSheet(), horizontalBarSheet);
-        QCOMPARE(scrollAreaOf(second)->verticalScrollBar()->contextMenuPolicy(),
-                 Qt::NoContextMenu);
+        QCOMPARE(scrollAreaOf(second)->verticalScrollBar()->contextMenuPolicy(), Qt::NoContextMenu);
 
         // A page that is not wrapped leaves them as they are.
         tabs.setBNeedScrollBar(false);
@@ -647,8 +646,8 @@ private Q_SLOTS:
         QTRY_VERIFY(bar->maximum() > 700);
         QCOMPARE(bar->value(), 0); // not by itself
 
-        QVERIFY(connect(bar, SIGNAL(rangeChanged(int, int)), &tabs,
-                        SLOT(on_rangeChanged(int, int))));
+        QVERIFY(
+            connect(bar, SIGNAL(rangeChanged(int, int)), &tabs, SLOT(on_rangeChanged(int, int))));
         page->setMinimumHeight(2000);
         QTRY_VERIFY(bar->maximum() > 1700);
         QCOMPARE(bar->value(), bar->maximum());
@@ -685,8 +684,7 @@ private Q_SLOTS:
             << editable << int(QTabWidget::North) << 20 << -20 << false;
         QTest::newRow("editable a pixel short")
             << editable << int(QTabWidget::North) << 19 << 20 << true;
-        QTest::newRow("below the pages")
-            << editable << int(QTabWidget::South) << 19 << 20 << true;
+        QTest::newRow("below the pages") << editable << int(QTabWidget::South) << 19 << 20 << true;
         QTest::newRow("at the right") << editable << int(QTabWidget::East) << 20 << -20 << false;
         QTest::newRow("at the left fits exactly")
             << plain << int(QTabWidget::West) << -20 << 0 << false;

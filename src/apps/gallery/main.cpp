@@ -1,13 +1,11 @@
-#include "fontsubstitutes.h"
 #include "galleryview.h"
 #include "gallerywindow.h"
+#include "hostprogram.h"
 #include "pagelist.h"
 #include "render.h"
-#include "theme.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
-#include <QLoggingCategory>
 
 #include <cstdio>
 
@@ -28,17 +26,6 @@ Request fail(const QString &reason)
 {
     std::fprintf(stderr, "gallery: %s\n", qPrintable(reason));
     return {Request::Done, usageError, {}, {}};
-}
-
-/// True where a window needs a display server and none is announced.
-bool isDisplayMissing()
-{
-#if defined(Q_OS_UNIX) && !defined(Q_OS_MACOS)
-    return qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") && qEnvironmentVariableIsEmpty("DISPLAY")
-        && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
-#else
-    return false;
-#endif
 }
 
 /// Answers what needs no window, so that it works, and stays quiet, without a display.
@@ -98,7 +85,7 @@ Request readCommandLine(int argc, char **argv)
             return fail(QStringLiteral("cannot write to the folder \"%1\"").arg(request.directory));
         return request;
     }
-    if (isDisplayMissing())
+    if (hostprogram::isDisplayMissing())
         return fail("there is no display to open a window on; --render FOLDER needs none");
     request.kind = Request::ShowWindow;
     return request;
@@ -112,26 +99,12 @@ int main(int argc, char **argv)
     if (request.kind == Request::Done)
         return request.exitStatus;
 
-    if (isDisplayMissing())
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    if (request.kind == Request::Render) {
-        // Pictures are the same whatever the screen; QT_SCALE_FACTOR still makes larger ones.
-        qputenv("QT_FONT_DPI", "96");
-    } else {
-        // Whole factors only, as Qt rounds them: a screen of 100 dots per inch is no reason for
-        // blurred lines. QT_SCALE_FACTOR asks for any other.
-        QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
-    }
-    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
-    // The spin boxes write debug messages that mean nothing to people who look at them.
-    QLoggingCategory::setFilterRules("default.debug=false");
-
+    hostprogram::prepare(request.kind == Request::Render);
     QApplication application(argc, argv);
     QApplication::setApplicationName("gallery");
     QApplication::setApplicationDisplayName("OrvaneControls Gallery");
     QApplication::setApplicationVersion(GALLERY_VERSION);
-    theme::apply();
-    registerFontSubstitutes();
+    hostprogram::dress();
 
     if (request.kind == Request::Render) {
         const QString error = renderPages(request.pages, request.directory);

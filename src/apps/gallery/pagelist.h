@@ -39,6 +39,11 @@ class Page;
     PAGE("Cabinet panels", WidgetContent)                                                          \
     PAGE("Cabinet panels", ShapeWidget)                                                            \
     PAGE("Cabinet panels", ShapeWidgetContent)                                                     \
+    PAGE("Window and dialogs", WindowTitle)                                                        \
+    PAGE("Window and dialogs", WindowFrame)                                                        \
+    PAGE("Lists, tables and trees", TableWidgetEx)                                                 \
+    PAGE("Lists, tables and trees", TableWidgetCustom)                                             \
+    PAGE("Lists, tables and trees", NewTableWidget)                                                \
     PAGE("Foundation", DefineCommonData)                                                           \
     PAGE("Foundation", Images)
 

@@ -6,6 +6,7 @@
 
 #include <QHeaderView>
 #include <QScrollBar>
+#include <QSignalBlocker>
 
 namespace
 {
@@ -20,6 +21,22 @@ QCheckBox *makeCheckBox(QWidget *table)
     auto *box = new QCheckBox(table);
     box->setAttribute(Qt::WA_TranslucentBackground);
     return box;
+}
+
+/// What QCheckBox::setChecked() does, signals included, but the box, or the table around it, may be
+/// deleted in them: Qt's function goes on using the box.
+void setBoxChecked(const QPointer<QCheckBox> &box, bool isChecked)
+{
+    const Qt::CheckState stateBefore = box->checkState();
+    const bool wasChecked = box->isChecked();
+    {
+        const QSignalBlocker blocker(box);
+        box->setChecked(isChecked);
+    }
+    if (box->checkState() != stateBefore)
+        Q_EMIT box->stateChanged(box->checkState());
+    if (box && wasChecked != isChecked)
+        Q_EMIT box->toggled(isChecked);
 }
 
 } // namespace
@@ -61,6 +78,7 @@ void NewTableWidget::setAddCheckBoxVisible(bool isVisible)
 void NewTableWidget::createCheckBoxColumn()
 {
     insertColumn(0);
+    setHorizontalHeaderItem(0, new QTableWidgetItem); // else its number stands under the box
     // The style's least width is more than that. The other columns share what is left.
     QHeaderView *header = horizontalHeader();
     header->setMinimumSectionSize(qMin(header->minimumSectionSize(), checkBoxColumnWidth));
@@ -125,7 +143,7 @@ void NewTableWidget::on_notifyStateChange(int state)
     const auto liveBoxes = orvane::liveList(boxes);
     for (const QPointer<QCheckBox> &box : liveBoxes) {
         if (box)
-            box->setChecked(state == Qt::Checked);
+            setBoxChecked(box, state == Qt::Checked);
     }
 }
 

@@ -13,8 +13,9 @@
  *
  * The boxes are for the rows that the table has when the column is built; rows added later get
  * none. The box of a row is its cell widget in column 0, a QCheckBox: read and connect it there.
- * The header box checks and unchecks them all; it does not follow them. Boxes, rows and the table
- * itself may be deleted in the boxes' toggled(bool) and clicked(bool).
+ * The header box checks and unchecks them all; it does not follow them. Rows, columns and boxes may
+ * be taken out in any signal of the boxes, and the table may be deleted in their stateChanged(int)
+ * and clicked(bool).
  *
  * The header box is 26 pixels high and stands 10 pixels below the table's top, so give the header
  * 36 pixels or more. There is no horizontal scroll bar; where columns do not fit, the table scrolls

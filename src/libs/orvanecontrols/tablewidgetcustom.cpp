@@ -26,10 +26,9 @@ TableWidgetCustom::TableWidgetCustom(QList<BackUpParam> records, QStringList hea
     , m_columnCount(columnCount)
 {
     initTable();
-    orvane::applyStyleSheet(
-        this,
-        orvane::tableSheet(QStringLiteral("border:1px solid rgb(56,56,56);"),
-                           "font:" + DefineCommonData::getNormalFont() + ";"));
+    orvane::applyStyleSheet(this,
+                            orvane::tableSheet(QStringLiteral("border:1px solid rgb(56,56,56);"),
+                                               "font:" + DefineCommonData::getNormalFont() + ";"));
     setMouseTracking(true);
     connect(this, &QTableWidget::itemEntered, this, &TableWidgetCustom::on_itemEntered);
 }

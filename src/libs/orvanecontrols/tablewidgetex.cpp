@@ -26,6 +26,7 @@ protected:
     {
         // Past QToolButton, whose handler touches the button after clicked(), in which a host may
         // have deleted it with the tab widget.
+        // NOLINTNEXTLINE(bugprone-parent-virtual-call)
         QAbstractButton::mouseReleaseEvent(event);
     }
 };
@@ -75,8 +76,8 @@ void TableWidgetEx::setTableWidgetStyle()
               "QTabWidget::tab-bar{left:0px;}"
               "QTabBar::tab{background-color:"
             + fromColorToStr(m_tabNomalColor) + ";color:" + fontColor
-            + ";font: SimSun Arial;width:" + QString::number(m_tabPanelWidth)
-            + "px;height:" + QString::number(m_tabPanelHeight)
+            + ";font: SimSun Arial;width:" + QString::number(m_tabPanelWidth) + "px;height:"
+            + QString::number(m_tabPanelHeight)
             // The margins carry no unit and two semicolons follow; hosts rely on the text.
             + "px;margin-left: " + QString::number(m_leftMargin)
             + ";margin-top: " + QString::number(m_topMargin)
@@ -175,8 +176,8 @@ int TableWidgetEx::addTab(QWidget *page, const QString &text)
 
 void TableWidgetEx::wrapPage(QWidget *page, QWidget *holder)
 {
-    m_mainLayout = page->layout() ? qobject_cast<QVBoxLayout *>(page->layout())
-                                  : makePlainLayout(page);
+    m_mainLayout =
+        page->layout() ? qobject_cast<QVBoxLayout *>(page->layout()) : makePlainLayout(page);
     m_scrollArea = new QScrollArea(holder);
     m_scrollArea->setBackgroundRole(QPalette::Base);
     m_scrollArea->setFrameShape(QFrame::NoFrame);
@@ -246,7 +247,7 @@ void TableWidgetEx::paintEvent(QPaintEvent *event)
     int x = bar.x() + bar.width();
     if (x + m_addButton->width() > width())
         x = m_addButton->x();
-    m_addButton->move(x, bar.y() + (bar.height() - m_addButton->height()) / 2);
+    m_addButton->move(x, qMax(0, bar.y() + (bar.height() - m_addButton->height()) / 2));
 }
 
 int TableWidgetEx::index() const

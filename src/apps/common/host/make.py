@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Renders the pictures that a host of the library supplies itself, here the gallery.
+"""Renders the pictures that a host of the library supplies itself.
 
 The close button is the library's own drawing at the double size; the logo is logo.svg.  Needs what
 images/render.py needs.

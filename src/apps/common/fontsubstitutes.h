@@ -1,5 +1,5 @@
-#ifndef GALLERY_FONTSUBSTITUTES_H
-#define GALLERY_FONTSUBSTITUTES_H
+#ifndef FONTSUBSTITUTES_H
+#define FONTSUBSTITUTES_H
 
 /**
  * Gives the library's texts good faces on a system that lacks the ones its style sheets name.
@@ -9,4 +9,4 @@
  */
 void registerFontSubstitutes();
 
-#endif // GALLERY_FONTSUBSTITUTES_H
+#endif // FONTSUBSTITUTES_H

@@ -1,5 +1,5 @@
-#ifndef GALLERY_THEME_H
-#define GALLERY_THEME_H
+#ifndef THEME_H
+#define THEME_H
 
 #include <QColor>
 #include <QFont>
@@ -48,4 +48,4 @@ void drawFrame(QPainter &painter, const QRectF &rect, const QColor &color, qreal
 
 } // namespace theme
 
-#endif // GALLERY_THEME_H
+#endif // THEME_H
