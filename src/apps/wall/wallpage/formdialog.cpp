@@ -2,6 +2,8 @@
 
 #include "parts.h"
 
+#include <theme.h>
+
 #include <QGridLayout>
 #include <QLabel>
 
@@ -20,7 +22,6 @@ FormDialog::FormDialog(const QString &title, const QString &acceptText, QWidget 
     : QDialog(parent, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint)
     , m_rows(new QGridLayout)
 {
-    parts::setDark(this);
     setWindowTitle(title);
 
     auto *accept = parts::makeButton(acceptText, ActivatedBtn, buttonWidth, this);
@@ -32,14 +33,14 @@ FormDialog::FormDialog(const QString &title, const QString &acceptText, QWidget 
     connect(cancel, &PushButtonEx::clicked, this, &QDialog::reject);
 
     auto *buttons = new QHBoxLayout;
-    buttons->setSpacing(parts::gap);
+    buttons->setSpacing(theme::gap);
     buttons->addStretch();
     buttons->addWidget(accept);
     buttons->addWidget(cancel);
-    m_rows->setSpacing(parts::gap);
+    m_rows->setSpacing(theme::gap);
     auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(parts::margin, parts::margin, parts::margin, parts::margin);
-    column->setSpacing(2 * parts::gap);
+    column->setContentsMargins(theme::margin, theme::margin, theme::margin, theme::margin);
+    column->setSpacing(2 * theme::gap);
     column->setSizeConstraint(QLayout::SetFixedSize);
     column->addLayout(m_rows);
     column->addLayout(buttons);
@@ -50,7 +51,7 @@ void FormDialog::addRow(const QString &caption, QWidget *field)
     const int row = m_rows->rowCount();
     QLabel *label = parts::makeCaption(caption, this);
     label->setBuddy(field);
-    field->setFixedSize(fieldWidth, parts::controlHeight);
+    field->setFixedSize(fieldWidth, theme::controlHeight);
     field->setAccessibleName(caption);
     m_rows->addWidget(label, row, 0);
     m_rows->addWidget(field, row, 1);

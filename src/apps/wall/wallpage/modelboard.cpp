@@ -10,6 +10,7 @@
 
 #include <custommegbox.h>
 #include <labelex.h>
+#include <theme.h>
 #include <toolbuttonex.h>
 #include <widgetcontrollboard.h>
 
@@ -23,8 +24,7 @@ namespace
 {
 
 constexpr int modelSide = 40;
-constexpr int portTextWidth = 180;
-constexpr int portTextHeight = 20;
+constexpr int portTextWidth = 220;
 constexpr int proposedStock = 10;
 constexpr int proposedRow = 8;
 
@@ -156,11 +156,9 @@ void ModelBoard::build()
         requestModel(m_modelIds.value(m_buttons.indexOf(button)));
     });
 
-    m_portName = new LabelEx(this);
-    m_portName->setFixedSize(portTextWidth, portTextHeight);
-    m_portCount = new LabelEx(this);
-    m_portCount->setFixedSize(portTextWidth, portTextHeight);
-    m_portCount->setFontColor(QColor(160, 160, 160));
+    m_portName = parts::makeValue(portTextWidth, this);
+    m_portCount = parts::makeValue(portTextWidth, this);
+    m_portCount->setFontColor(theme::quietText);
     auto *texts = new QVBoxLayout;
     texts->setSpacing(0);
     texts->addStretch();
@@ -169,7 +167,7 @@ void ModelBoard::build()
     texts->addStretch();
     auto *line = new QHBoxLayout(this);
     line->setContentsMargins(0, 0, 0, 0);
-    line->setSpacing(parts::margin);
+    line->setSpacing(theme::margin);
     line->addWidget(m_board);
     line->addLayout(texts);
     line->addStretch();
@@ -209,11 +207,19 @@ void ModelBoard::rebuild()
         m_buttons.append(button);
         widgets.append(button);
     }
-    m_board->setLsWidget(widgets);
-    // The strip takes the keyboard away from its buttons; here they are used with it.
-    for (QWidget *widget : qAsConst(widgets))
-        widget->setFocusPolicy(Qt::TabFocus);
+    fillStrip(widgets);
     showAvailability();
+}
+
+void ModelBoard::fillStrip(const QList<QWidget *> &buttons)
+{
+    m_board->setLsWidget(buttons);
+    // The strip takes the keyboard away from its buttons; here they are used with it.
+    for (QWidget *button : buttons)
+        button->setFocusPolicy(Qt::TabFocus);
+    // Between them the strip's own ground is to be seen, not that of the window.
+    if (!buttons.isEmpty())
+        buttons.constFirst()->parentWidget()->setAutoFillBackground(false);
 }
 
 /// Gives the strip's buttons what the library leaves to its host: pictures and names.
@@ -251,9 +257,7 @@ void ModelBoard::renewCopies()
     m_areCopiesOld = false;
     QWidget *focus = m_board->focusWidget();
     const QList<QWidget *> buttons = m_board->lsWidget();
-    m_board->setLsWidget(buttons);
-    for (QWidget *button : buttons)
-        button->setFocusPolicy(Qt::TabFocus);
+    fillStrip(buttons);
     if (focus && buttons.contains(focus))
         focus->setFocus();
 }

@@ -50,6 +50,7 @@ private:
     void build();
     void followProject();
     void rebuild();
+    void fillStrip(const QList<QWidget *> &buttons);
     void dressStrip();
     void updateModel(const QString &modelId);
     void renewCopies();

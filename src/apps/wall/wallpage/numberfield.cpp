@@ -1,6 +1,6 @@
 #include "numberfield.h"
 
-#include "parts.h"
+#include <theme.h>
 
 #include <QLineEdit>
 #include <QSignalBlocker>
@@ -8,18 +8,11 @@
 namespace wall
 {
 
-namespace
-{
-
-const QColor textColor(210, 210, 210);
-
-} // namespace
-
 NumberField::NumberField(QWidget *parent)
     : SpinBoxEx(parent)
 {
-    setFixedHeight(parts::controlHeight);
-    setFontColor(textColor);
+    setFixedHeight(theme::controlHeight);
+    setFontColor(theme::text);
     setKeyboardTracking(false);
     setAccelerated(true);
     connect(lineEdit(), &QLineEdit::textEdited, this, [this] {

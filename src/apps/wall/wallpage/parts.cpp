@@ -1,10 +1,11 @@
 #include "parts.h"
 
-#include <scrollbarex.h>
+#include <labelex.h>
+#include <theme.h>
 
-#include <QAbstractScrollArea>
 #include <QLabel>
 #include <QPalette>
+#include <QScrollArea>
 
 namespace wall::parts
 {
@@ -12,58 +13,15 @@ namespace wall::parts
 namespace
 {
 
-const QColor well(43, 43, 43);
-const QColor ground(56, 56, 56);
-const QColor raised(69, 69, 69);
-const QColor text(210, 210, 210);
-const QColor quietText(160, 160, 160);
-const QColor disabledText(112, 112, 112);
-const QColor accent(66, 145, 240);
-
-constexpr int scrollBarWidth = 10;
-constexpr int scrollHandleWidth = 6;
-constexpr int scrollHandleRadius = 3;
+constexpr int valueHeight = 5 * theme::unit;
+constexpr int buttonPadding = 6 * theme::unit; ///< On both sides of a text together.
 
 } // namespace
-
-void setDark(QWidget *panel)
-{
-    QPalette palette = panel->palette();
-    palette.setColor(QPalette::Window, ground);
-    palette.setColor(QPalette::WindowText, text);
-    palette.setColor(QPalette::Base, well);
-    palette.setColor(QPalette::Text, text);
-    palette.setColor(QPalette::Button, raised);
-    palette.setColor(QPalette::ButtonText, text);
-    palette.setColor(QPalette::Highlight, accent);
-    palette.setColor(QPalette::HighlightedText, Qt::white);
-    for (const QPalette::ColorRole role :
-         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-        palette.setColor(QPalette::Disabled, role, disabledText);
-    panel->setPalette(palette);
-    panel->setAutoFillBackground(true);
-}
-
-void styleScrollArea(QAbstractScrollArea *area)
-{
-    area->setFrameShape(QFrame::NoFrame);
-    // The look stays on the bar when the object that put it there goes.
-    ScrollBarEx style(area->verticalScrollBar(), false);
-    style.setScrollWidth(scrollBarWidth);
-    style.setScrollBarWidth(scrollHandleWidth);
-    style.setBorderRadius(scrollHandleRadius);
-    style.setScrollColor(ground);
-    style.setScrollHandleColor(QColor(99, 99, 99));
-    style.setScrollHandlePressedColor(QColor(128, 128, 128));
-    style.setVerticalStyle();
-}
 
 QLabel *makeHeading(const QString &text, QWidget *parent)
 {
     auto *label = new QLabel(text, parent);
-    QFont font = label->font();
-    font.setBold(true);
-    label->setFont(font);
+    label->setFont(theme::headingFont());
     return label;
 }
 
@@ -71,17 +29,42 @@ QLabel *makeCaption(const QString &text, QWidget *parent)
 {
     auto *label = new QLabel(text, parent);
     QPalette palette = label->palette();
-    palette.setColor(QPalette::WindowText, quietText);
+    palette.setColor(QPalette::WindowText, theme::quietText);
     label->setPalette(palette);
     return label;
 }
 
-PushButtonEx *makeButton(const QString &text, BtnType type, int width, QWidget *parent)
+LabelEx *makeValue(int width, QWidget *parent)
+{
+    auto *label = new LabelEx(parent);
+    label->setFixedSize(width, valueHeight); // texts are elided to the width at their time
+    label->ensurePolished();
+    return label;
+}
+
+PushButtonEx *makeButton(const QString &text, BtnType type, int leastWidth, QWidget *parent)
 {
     auto *button = new PushButtonEx(parent, type);
-    button->setFixedSize(width, controlHeight);
+    button->ensurePolished(); // the sheet brings the font
+    const int textWidth = button->fontMetrics().horizontalAdvance(text);
+    button->setFixedSize(qMax(leastWidth, textWidth + buttonPadding), theme::controlHeight);
     button->setText(text);
     return button;
+}
+
+QScrollArea *makeScrollArea(QWidget *content, QWidget *parent)
+{
+    auto *area = new QScrollArea(parent);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    area->setFocusPolicy(Qt::NoFocus); // Tab goes to what is in it, and scrolls to that
+    area->setWidget(content);
+    // The ground of the panel shows through.
+    area->viewport()->setAutoFillBackground(false);
+    content->setAutoFillBackground(false);
+    theme::styleScrollBars(area);
+    return area;
 }
 
 } // namespace wall::parts

@@ -3,27 +3,24 @@
 
 #include <pushbuttonex.h>
 
-class QAbstractScrollArea;
+class LabelEx;
 class QLabel;
+class QScrollArea;
 
-/// What the panels around the wall are made of: one ground, one rhythm, one control height.
+/// What the panels around the wall are made of.
 namespace wall::parts
 {
-
-constexpr int gap = 8;
-constexpr int margin = 12;
-constexpr int controlHeight = 28;
-
-/// Gives \a panel the dark ground and the light text, for all that is in it.
-void setDark(QWidget *panel);
-/// Puts the library's scroll bars on \a area and takes away its frame.
-void styleScrollArea(QAbstractScrollArea *area);
 
 QLabel *makeHeading(const QString &text, QWidget *parent);
 /// A quiet text beside or below what it names.
 QLabel *makeCaption(const QString &text, QWidget *parent);
-/// A button of the common height. The width comes first: the text is elided to it.
-PushButtonEx *makeButton(const QString &text, BtnType type, int width, QWidget *parent);
+/// A text of a line that changes, elided to \a width.
+LabelEx *makeValue(int width, QWidget *parent);
+/// A button of the common height, at least \a leastWidth wide and wide enough for its text.
+PushButtonEx *makeButton(const QString &text, BtnType type, int leastWidth, QWidget *parent);
+
+/// An area that scrolls \a content up and down.
+QScrollArea *makeScrollArea(QWidget *content, QWidget *parent);
 
 } // namespace wall::parts
 

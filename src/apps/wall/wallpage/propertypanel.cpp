@@ -7,11 +7,11 @@
 #include "selection.h"
 
 #include <labelex.h>
+#include <theme.h>
 
 #include <QGridLayout>
 #include <QLabel>
 #include <QLocale>
-#include <QScrollArea>
 #include <QTimer>
 #include <QUndoStack>
 
@@ -27,9 +27,8 @@ namespace
 constexpr int panelWidth = 232;
 constexpr int columns = 2;
 constexpr int captionWidth = 64;
-constexpr int valueWidth = panelWidth - 2 * parts::margin - parts::gap - captionWidth;
-constexpr int commandWidth = (panelWidth - 2 * parts::margin - parts::gap) / columns;
-constexpr int textHeight = 20;
+constexpr int valueWidth = panelWidth - 2 * theme::margin - theme::gap - captionWidth;
+constexpr int commandWidth = (panelWidth - 2 * theme::margin - theme::gap) / columns;
 constexpr int quarterTurn = 90;
 constexpr int lastDegree = 359;
 constexpr int seriesPause = 1000; ///< Milliseconds without a step, after which a series is over.
@@ -56,19 +55,12 @@ QString sizeText(QSize size)
     return QStringLiteral("%1 × %2").arg(size.width()).arg(size.height());
 }
 
-LabelEx *makeValue(QWidget *parent)
-{
-    auto *label = new LabelEx(parent);
-    label->setFixedSize(valueWidth, textHeight); // the text is elided to the width
-    return label;
-}
-
 LabelEx *addText(QGridLayout *grid, const QString &caption)
 {
     QWidget *parent = grid->parentWidget();
     QLabel *label = parts::makeCaption(caption, parent);
     label->setFixedWidth(captionWidth);
-    LabelEx *value = makeValue(parent);
+    LabelEx *value = parts::makeValue(valueWidth, parent);
     const int row = grid->rowCount();
     grid->addWidget(label, row, 0);
     grid->addWidget(value, row, 1);
@@ -93,7 +85,7 @@ NumberField *addNumber(QGridLayout *grid, const QString &caption, int least, int
 QGridLayout *makeGrid(QWidget *parent, int spacing)
 {
     auto *grid = new QGridLayout;
-    grid->setHorizontalSpacing(parts::gap);
+    grid->setHorizontalSpacing(theme::gap);
     grid->setVerticalSpacing(spacing);
     static_cast<QVBoxLayout *>(parent->layout())->addLayout(grid);
     return grid;
@@ -136,12 +128,10 @@ void PropertyPanel::removeCabinets()
 
 void PropertyPanel::build()
 {
-    parts::setDark(this);
     auto *content = new QWidget;
-    content->setAutoFillBackground(false);
     auto *column = new QVBoxLayout(content);
-    column->setContentsMargins(parts::margin, parts::margin, parts::margin, parts::margin);
-    column->setSpacing(parts::margin);
+    column->setContentsMargins(theme::margin, theme::margin, theme::margin, theme::margin);
+    column->setSpacing(theme::margin);
 
     m_heading = parts::makeHeading(QString(), content);
     column->addWidget(m_heading);
@@ -151,16 +141,9 @@ void PropertyPanel::build()
     column->addWidget(parts::makeHeading(QStringLiteral("Whole wall"), content));
     addTotals(content);
 
-    auto *area = new QScrollArea(this);
-    area->setWidgetResizable(true);
-    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    area->setFocusPolicy(Qt::NoFocus);
-    area->setWidget(content);
-    area->viewport()->setAutoFillBackground(false);
-    parts::styleScrollArea(area);
     auto *frame = new QVBoxLayout(this);
     frame->setContentsMargins(0, 0, 0, 0);
-    frame->addWidget(area);
+    frame->addWidget(parts::makeScrollArea(content, this));
     setFixedWidth(panelWidth);
 }
 
@@ -172,7 +155,7 @@ void PropertyPanel::addProperties(QWidget *content)
     m_port = addText(texts, QStringLiteral("Port"));
     m_place = addText(texts, QStringLiteral("Data line"));
 
-    QGridLayout *numbers = makeGrid(content, parts::gap);
+    QGridLayout *numbers = makeGrid(content, theme::gap);
     m_x = addNumber(numbers, QStringLiteral("X"), -maxCoordinate, maxCoordinate);
     m_y = addNumber(numbers, QStringLiteral("Y"), -maxCoordinate, maxCoordinate);
     m_rotation = addNumber(numbers, QStringLiteral("Rotation"), 0, lastDegree);
@@ -181,7 +164,7 @@ void PropertyPanel::addProperties(QWidget *content)
 
 void PropertyPanel::addCommands(QWidget *content)
 {
-    QGridLayout *grid = makeGrid(content, parts::gap);
+    QGridLayout *grid = makeGrid(content, theme::gap);
     const auto add = [this, grid, content](const QString &text, auto action) {
         PushButtonEx *button = parts::makeButton(text, NoActivatedBtn, commandWidth, content);
         connect(button, &PushButtonEx::clicked, this, action);

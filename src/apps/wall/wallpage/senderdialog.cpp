@@ -1,7 +1,5 @@
 #include "senderdialog.h"
 
-#include "parts.h"
-
 #include <checkboxex.h>
 #include <comboboxex.h>
 #include <lineeditex.h>

@@ -9,6 +9,7 @@
 #include <offlineportitemcontentframe.h>
 #include <offlineportitemframe.h>
 #include <rowlineitem.h>
+#include <theme.h>
 #include <toolbuttonex.h>
 
 #include <QCheckBox>
@@ -252,7 +253,7 @@ void SenderEntry::buildBody()
     QWidget *body = nullptr;
     if (sender->ports.isEmpty()) {
         body = parts::makeCaption(QStringLiteral("This sender has no ports."), nullptr);
-        body->resize(bodyWidth, parts::controlHeight);
+        body->resize(bodyWidth, theme::controlHeight);
     } else {
         body = sender->isOnline ? createRows(*sender) : createGrid(*sender);
     }

@@ -10,6 +10,7 @@
 #include <custommegbox.h>
 #include <drawer.h>
 #include <draweritem.h>
+#include <theme.h>
 
 #include <QAbstractButton>
 #include <QKeyEvent>
@@ -172,7 +173,6 @@ void SenderPanel::keyPressEvent(QKeyEvent *event)
 
 void SenderPanel::build()
 {
-    parts::setDark(this);
     QLabel *heading = parts::makeHeading(QStringLiteral("Senders"), this);
     m_count = parts::makeCaption(QString(), this);
     m_editButton =
@@ -182,15 +182,10 @@ void SenderPanel::build()
 
     m_drawer = new Drawer;
     m_drawer->pVBoxlayout()->setContentsMargins(0, 0, 0, 0);
-    m_drawer->pVBoxlayout()->setSpacing(parts::gap);
-    m_area = new QScrollArea(this);
-    m_area->setWidgetResizable(true);
-    m_area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_area->setFocusPolicy(Qt::NoFocus);
-    m_area->setWidget(m_drawer);
-    m_area->viewport()->setAutoFillBackground(false);
-    m_drawer->setAutoFillBackground(false);
-    parts::styleScrollArea(m_area);
+    m_drawer->pVBoxlayout()->setSpacing(theme::gap);
+    // Without a share of the spare height an expanded item would take some of it for itself.
+    m_drawer->pVBoxlayout()->setStretch(0, 1);
+    m_area = parts::makeScrollArea(m_drawer, this);
     connect(m_drawer, &Drawer::signal_notifyItem, this, [this](DrawerItem *item) {
         for (SenderEntry *entry : qAsConst(m_entries)) {
             if (entry->item() == item) {
@@ -211,19 +206,19 @@ void SenderPanel::build()
             [this] { changeSender(m_currentSender); });
 
     auto *head = new QHBoxLayout;
-    head->setSpacing(parts::gap);
+    head->setSpacing(theme::gap);
     head->addWidget(heading);
     head->addWidget(m_count);
     head->addStretch();
     head->addWidget(m_editButton);
     auto *foot = new QHBoxLayout;
-    foot->setSpacing(parts::gap);
+    foot->setSpacing(theme::gap);
     foot->addWidget(addButton);
     foot->addWidget(m_settingsButton);
     foot->addStretch();
     auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(parts::margin, parts::margin, parts::margin, parts::margin);
-    column->setSpacing(parts::gap);
+    column->setContentsMargins(theme::margin, theme::margin, theme::margin, theme::margin);
+    column->setSpacing(theme::gap);
     column->addLayout(head);
     column->addWidget(m_area, 1);
     column->addLayout(foot);

@@ -7,6 +7,7 @@
 
 #include <labelex.h>
 #include <sliderexmouse.h>
+#include <theme.h>
 
 #include <QHBoxLayout>
 #include <QSignalBlocker>
@@ -56,14 +57,13 @@ WallPage::WallPage(Document *document, Selection *selection, QWidget *view, QWid
     , m_propertyPanel(new PropertyPanel(document, selection, this))
     , m_view(view)
 {
-    parts::setDark(this);
     connect(m_senderPanel, &SenderPanel::placeRequested, this, &WallPage::placeRequested);
     connect(m_modelBoard, &ModelBoard::placeRequested, this, &WallPage::placeRequested);
     connect(m_modelBoard, &ModelBoard::placeRowRequested, this, &WallPage::placeRowRequested);
 
     auto *middle = new QVBoxLayout;
-    middle->setContentsMargins(0, parts::margin, 0, parts::margin);
-    middle->setSpacing(parts::gap);
+    middle->setContentsMargins(0, theme::margin, 0, theme::margin);
+    middle->setSpacing(theme::gap);
     middle->addWidget(m_view, 1);
     middle->addWidget(m_modelBoard);
     middle->addWidget(createZoomRow());
@@ -128,13 +128,12 @@ QWidget *WallPage::createZoomRow()
     m_zoomSlider->setFixedWidth(sliderWidth);
     m_zoomSlider->setAccessibleName(QStringLiteral("Zoom"));
     connect(m_zoomSlider, &SliderExMouse::valueChanged, this, &WallPage::requestZoom);
-    m_zoomText = new LabelEx(row);
-    m_zoomText->setFixedSize(zoomTextWidth, parts::controlHeight);
+    m_zoomText = parts::makeValue(zoomTextWidth, row);
     m_zoomText->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
 
     auto *line = new QHBoxLayout(row);
     line->setContentsMargins(0, 0, 0, 0);
-    line->setSpacing(parts::gap);
+    line->setSpacing(theme::gap);
     line->addStretch();
     line->addWidget(fit);
     line->addWidget(out);
