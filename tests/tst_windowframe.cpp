@@ -485,6 +485,11 @@ private Q_SLOTS:
         QCOMPARE(band->styleSheet(), QString("QDialog{border:5px solid blue;}"));
         frame->SetRubberBandShape(ChildRubberBand);
         QVERIFY(takeDebugMessages().isEmpty());
+        // It is of the default category, as those who filter it expect.
+        QLoggingCategory::setFilterRules("default.debug=false");
+        frame->SetRubberBandShape(static_cast<RubberBandShape>(shape));
+        QLoggingCategory::setFilterRules(QString());
+        QVERIFY(takeDebugMessages().isEmpty());
     }
 
     void lastLineStyleIsSeenAtTheFirstShowAndAfter()
@@ -999,6 +1004,8 @@ private Q_SLOTS:
         frame->SetRubberBandShape(static_cast<RubberBandShape>(9));
         frame->SetRubberBandLineStyle("QDialog{}");
         QVERIFY(takeDebugMessages().isEmpty());
+        delete frame->GetBaseFrameLayout();
+        QVERIFY(!frame->GetBaseFrameLayout());
         delete frame->GetTitleWidget();
         QVERIFY(!frame->GetTitleWidget());
         frame->SetTitleBarVisable(true);

@@ -1,5 +1,7 @@
 #include "hostframe.h"
 
+#include "layoutwarnings.h"
+
 #include <windowtitle.h>
 
 #include <QCloseEvent>
@@ -16,39 +18,20 @@ constexpr int edge = 6;
 constexpr int titleHeight = 30;
 constexpr QPoint logoPlace(10, 6);
 constexpr int logoGap = 8;
-constexpr int noRegion = 8; // WindowFrame::GetCurDragDirect()
 
 QSize screenSize()
 {
     return QGuiApplication::primaryScreen()->availableSize();
 }
 
-QtMessageHandler otherHandler = nullptr;
-
-void passUnlessAboutLayouts(QtMsgType type, const QMessageLogContext &context, const QString &text)
-{
-    if (!text.startsWith("QLayout: ") && !text.startsWith("QLayout::"))
-        otherHandler(type, context, text);
-}
-
 } // namespace
 
-HostFrame::QuietConstruction::QuietConstruction()
-{
-    otherHandler = qInstallMessageHandler(passUnlessAboutLayouts);
-}
-
-HostFrame::QuietConstruction::~QuietConstruction()
-{
-    qInstallMessageHandler(otherHandler);
-}
-
 HostFrame::HostFrame(const QSize &normalSize, const QSize &smallestSize, QWidget *parent)
-    : HostFrame(QuietConstruction(), normalSize, smallestSize, parent)
+    : HostFrame(LayoutWarningsMuted(), normalSize, smallestSize, parent)
 {
 }
 
-HostFrame::HostFrame(const QuietConstruction & /*quiet*/, const QSize &normalSize,
+HostFrame::HostFrame(const LayoutWarningsMuted & /*muted*/, const QSize &normalSize,
                      const QSize &smallestSize, QWidget *parent)
     : WindowFrame(screenSize(), screenSize(), normalSize.boundedTo(screenSize()), parent)
     , m_maximumSize(screenSize())
@@ -63,6 +46,7 @@ HostFrame::HostFrame(const QuietConstruction & /*quiet*/, const QSize &normalSiz
     title->SetLogoGroupVisable(false);
 
     const QScreen *screen = QGuiApplication::primaryScreen();
+    move(screen->availableGeometry().topLeft());
     connect(screen, &QScreen::availableGeometryChanged, this, &HostFrame::followScreen);
 }
 

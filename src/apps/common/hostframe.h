@@ -3,6 +3,8 @@
 
 #include <windowframe.h>
 
+class LayoutWarningsMuted;
+
 /**
  * A main window on the library's WindowFrame, with what the frame leaves to its host: it fits the
  * screen, places the logo, can be resized by its edges, and closes.
@@ -37,16 +39,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
-    /// Keeps from the log what the frame's construction makes Qt say about layouts.
-    class QuietConstruction
-    {
-    public:
-        QuietConstruction();
-        ~QuietConstruction();
-        Q_DISABLE_COPY_MOVE(QuietConstruction)
-    };
-
-    HostFrame(const QuietConstruction &quiet, const QSize &normalSize, const QSize &smallestSize,
+    HostFrame(const LayoutWarningsMuted &muted, const QSize &normalSize, const QSize &smallestSize,
               QWidget *parent);
     void followScreen();
 

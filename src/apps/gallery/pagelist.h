@@ -44,6 +44,13 @@ class Page;
     PAGE("Lists, tables and trees", TableWidgetEx)                                                 \
     PAGE("Lists, tables and trees", TableWidgetCustom)                                             \
     PAGE("Lists, tables and trees", NewTableWidget)                                                \
+    PAGE("Window and dialogs", CustomMessageBox)                                                   \
+    PAGE("Window and dialogs", CustomMegBox)                                                       \
+    PAGE("Window and dialogs", CustomWidget)                                                       \
+    PAGE("Tabs", NQToolButton)                                                                     \
+    PAGE("Tabs", TabBarRd)                                                                         \
+    PAGE("Tabs", NQTabBar)                                                                         \
+    PAGE("Tabs", NQTabWidget)                                                                      \
     PAGE("Foundation", DefineCommonData)                                                           \
     PAGE("Foundation", Images)
 

@@ -25,6 +25,9 @@ void NQTabWidget::creatUi()
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_tabBar);
     layout->addWidget(m_stack);
+    // A page is polished when it is added, and takes the sheet that Qt has parsed for the stack by
+    // then: only a polished stack forgets the one before.
+    m_stack->ensurePolished();
     setStackedWidgetColor(m_stackColor);
 }
 

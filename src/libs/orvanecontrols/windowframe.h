@@ -170,7 +170,7 @@ private:
     bool m_isNormal = false;
     QSizeF m_restoreSize;
     QPointF m_pressOffset;
-    QVBoxLayout *m_baseFrameLayout = nullptr;
+    QPointer<QVBoxLayout> m_baseFrameLayout;
     QLayout *m_secondLayout = nullptr;
     bool m_isPressedInTitle = false;
 };

@@ -109,7 +109,7 @@ GALLERY_PAGE(WindowFrame)
     page.event(title, "signal_closeMainForm", &T::signal_closeMainForm);
     page.event(title, "signal_mouseDoubleClickIntitle", &T::signal_mouseDoubleClickIntitle);
 
-    page.action<W>("slot_showMaximized()", &W::slot_showMaximized);
+    page.action<W>("slot_showMaximized()", &W::slot_showMaximized, Reach::TryIt);
     page.action<W>("slot_showMinimized()", &W::slot_showMinimized, Reach::TryIt);
     page.action<W>("slot_close()", &W::slot_close, Reach::TryIt);
     page.number<W>(

@@ -1,5 +1,5 @@
-#ifndef GALLERY_LAYOUTWARNINGS_H
-#define GALLERY_LAYOUTWARNINGS_H
+#ifndef LAYOUTWARNINGS_H
+#define LAYOUTWARNINGS_H
 
 #include <QtGlobal>
 
@@ -15,4 +15,4 @@ private:
     Q_DISABLE_COPY(LayoutWarningsMuted)
 };
 
-#endif // GALLERY_LAYOUTWARNINGS_H
+#endif // LAYOUTWARNINGS_H
