@@ -12,6 +12,7 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QLocale>
+#include <QScrollArea>
 #include <QTimer>
 #include <QUndoStack>
 
@@ -134,6 +135,7 @@ void PropertyPanel::build()
     column->setSpacing(theme::margin);
 
     m_heading = parts::makeHeading(QString(), content);
+    m_heading->setFixedHeight(theme::controlHeight); // as high as the heads of the other panels
     column->addWidget(m_heading);
     addProperties(content);
     addCommands(content);
