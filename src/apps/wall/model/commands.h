@@ -9,8 +9,9 @@
 /// exactly, data lines included. A command keeps a pointer to its project, so the stack is cleared
 /// before the project goes or is reset.
 ///
-/// A command may only be made from what is possible. Functions named ...Problem tell before: they
-/// return an empty text, or one sentence for the user that says what is impossible.
+/// A command is made in the state in which it is pushed, and only from what is possible. A command
+/// that would change nothing leaves no step on the stack. Functions named ...Problem tell before:
+/// they return an empty text, or one sentence for the user that says what is impossible.
 namespace wall
 {
 
@@ -175,8 +176,9 @@ public:
 
 private:
     Project *m_project;
+    QString m_senderId;
     Sender m_sender;
-    int m_index;
+    int m_index = 0;
     QVector<LinePlace> m_places;
 };
 
@@ -221,6 +223,20 @@ private:
     PortRef m_port;
     QVector<StockEntry> m_before;
     QVector<StockEntry> m_after;
+};
+
+/// Gives the project another name.
+class RenameProjectCommand : public QUndoCommand
+{
+public:
+    RenameProjectCommand(Project *project, const QString &name, QUndoCommand *parent = nullptr);
+    void redo() override;
+    void undo() override;
+
+private:
+    Project *m_project;
+    QString m_before;
+    QString m_after;
 };
 
 } // namespace wall

@@ -43,7 +43,8 @@ struct CabinetRotation {
  * stack; the functions under "Changes" are what those commands do, and nothing else calls them.
  * Each of them takes any number of elements, brings everything up to date and only then emits each
  * signal that applies: an id list once, a port or a port and model once each. It costs as much as
- * what it changes, whatever the size of the project. A change to what already is emits nothing.
+ * what it changes and the data lines that this is part of, whatever the size of the project. A
+ * change to what already is emits nothing.
  *
  * Pointers that queries return are valid until the next change and null for what does not exist.
  */
@@ -168,7 +169,9 @@ private:
     struct Change;
 
     void addPorts(const Sender &sender);
-    void enter(const PlacedCabinet &cabinet, Change *change);
+    void removePorts(const Sender &sender);
+    void enter(const PlacedCabinet &cabinet);
+    QRect boundsOf(const PlacedCabinet &cabinet) const;
     void addBounds(const QRect &bounds);
     void removeBounds(const QRect &bounds);
     void tell(const Change &change);

@@ -93,7 +93,7 @@ struct PlacedCabinet {
 };
 
 /// A project as a plain value: what a file holds. The cabinets of a port stand in the order of its
-/// data line; those of different ports may be mixed. Their ids mean nothing here.
+/// data line; those of different ports may be mixed. Their ids are 0.
 struct ProjectData {
     QString name;
     QVector<CabinetModel> models;
