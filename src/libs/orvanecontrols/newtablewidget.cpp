@@ -1,0 +1,155 @@
+#include "newtablewidget.h"
+
+#include "internal/livelist.h"
+#include "internal/stylesheet.h"
+#include "internal/tablelook.h"
+
+#include <QHeaderView>
+#include <QScrollBar>
+
+namespace
+{
+
+constexpr int checkBoxColumnWidth = 30;
+constexpr int headerCheckBoxTop = 10;
+constexpr int headerCheckBoxSize = 26;
+constexpr int scrollHeight = 12;
+
+QCheckBox *makeCheckBox(QWidget *table)
+{
+    auto *box = new QCheckBox(table);
+    box->setAttribute(Qt::WA_TranslucentBackground);
+    return box;
+}
+
+} // namespace
+
+NewTableWidget::NewTableWidget(QWidget *parent)
+    : QTableWidget(parent)
+{
+    initTable();
+    initTableStyle();
+}
+
+void NewTableWidget::initTable()
+{
+    orvane::initTableBehavior(this);
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    horizontalHeader()->setStretchLastSection(true);
+    horizontalHeader()->setEnabled(false);
+    horizontalScrollBar()->setEnabled(false);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    orvane::styleTableScrollBars(this, scrollHeight);
+    connect(horizontalScrollBar(), &QScrollBar::valueChanged, this, &NewTableWidget::on_valueChange,
+            Qt::UniqueConnection);
+}
+
+void NewTableWidget::initTableStyle()
+{
+    orvane::applyStyleSheet(this, orvane::tableSheet(QString(), orvane::fontDeclaration));
+}
+
+void NewTableWidget::setAddCheckBoxVisible(bool isVisible)
+{
+    if (isVisible)
+        createCheckBoxColumn();
+    else if (m_isCheckBoxColumnShown)
+        removeCheckBoxes();
+    m_isCheckBoxColumnShown = isVisible;
+}
+
+void NewTableWidget::createCheckBoxColumn()
+{
+    insertColumn(0);
+    // The style's least width is more than that. The other columns share what is left.
+    QHeaderView *header = horizontalHeader();
+    header->setMinimumSectionSize(qMin(header->minimumSectionSize(), checkBoxColumnWidth));
+    header->setSectionResizeMode(0, QHeaderView::Fixed);
+    setColumnWidth(0, checkBoxColumnWidth);
+
+    removeHeaderCheckBox();
+    m_headerCheckBox = makeCheckBox(this);
+    m_headerCheckBox->setGeometry(0, headerCheckBoxTop, headerCheckBoxSize, headerCheckBoxSize);
+    connect(m_headerCheckBox, &QCheckBox::stateChanged, this,
+            &NewTableWidget::on_notifyStateChange);
+    m_headerCheckBox->show(); // by itself it comes only with a table that is not shown yet
+
+    for (int row = 0; row < rowCount(); ++row)
+        setCellWidget(row, 0, makeCheckBox(this));
+    m_isCheckBoxColumnShown = true;
+}
+
+QCheckBox *NewTableWidget::rowCheckBox(int row) const
+{
+    return qobject_cast<QCheckBox *>(cellWidget(row, 0));
+}
+
+void NewTableWidget::removeCheckBoxes()
+{
+    removeHeaderCheckBox();
+    for (int row = 0; row < rowCount(); ++row) {
+        if (rowCheckBox(row))
+            removeCellWidget(row, 0);
+    }
+}
+
+void NewTableWidget::removeHeaderCheckBox()
+{
+    if (!m_headerCheckBox)
+        return;
+    // Not at once: this may be in the middle of its own click.
+    m_headerCheckBox->disconnect(this);
+    m_headerCheckBox->hide();
+    m_headerCheckBox->deleteLater();
+    m_headerCheckBox = nullptr;
+}
+
+void NewTableWidget::placeHeaderCheckBox()
+{
+    if (!m_isCheckBoxColumnShown || !m_headerCheckBox || rowCount() == 0)
+        return;
+    // A first row that was added later has no box; its box would stand where the column begins.
+    const QCheckBox *firstBox = rowCheckBox(0);
+    m_headerCheckBox->setGeometry(firstBox ? firstBox->x() : columnViewportPosition(0),
+                                  headerCheckBoxTop, headerCheckBoxSize, headerCheckBoxSize);
+}
+
+void NewTableWidget::on_notifyStateChange(int state)
+{
+    if (state != Qt::Checked && state != Qt::Unchecked)
+        return;
+    // Every box runs code of the host's, which may remove rows, or the table.
+    QList<QCheckBox *> boxes;
+    for (int row = 0; row < rowCount(); ++row)
+        boxes.append(rowCheckBox(row));
+    const auto liveBoxes = orvane::liveList(boxes);
+    for (const QPointer<QCheckBox> &box : liveBoxes) {
+        if (box)
+            box->setChecked(state == Qt::Checked);
+    }
+}
+
+void NewTableWidget::on_valueChange(int /*value*/)
+{
+    placeHeaderCheckBox();
+}
+
+void NewTableWidget::letLastColumnShrink()
+{
+    // Qt never stretches a last section to less than the width that it remembers for it, so that
+    // the section would leave a table that becomes narrower: it is told a width to forget that.
+    QHeaderView *header = horizontalHeader();
+    int last = header->count() - 1;
+    while (last >= 0 && header->isSectionHidden(header->logicalIndex(last)))
+        --last;
+    const int column = header->logicalIndex(last);
+    if (column >= 0 && header->sectionResizeMode(column) == QHeaderView::Stretch)
+        header->resizeSection(column, header->minimumSectionSize());
+}
+
+void NewTableWidget::resizeEvent(QResizeEvent *event)
+{
+    QTableWidget::resizeEvent(event);
+    letLastColumnShrink();
+    placeHeaderCheckBox();
+}

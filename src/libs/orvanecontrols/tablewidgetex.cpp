@@ -1,0 +1,430 @@
+#include "tablewidgetex.h"
+
+#include "internal/stylesheet.h"
+#include "scrollbarex.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QFontMetrics>
+#include <QScrollBar>
+#include <QTabBar>
+
+namespace
+{
+
+constexpr int addButtonSize = 20;
+constexpr int closeButtonRoom = 20;
+constexpr int scrollThickness = 12;
+constexpr int scrollHandle = 6;
+constexpr int scrollRadius = 3;
+
+/// The button that asks for a new table.
+class AddButton : public QToolButton
+{
+protected:
+    void mouseReleaseEvent(QMouseEvent *event) override
+    {
+        // Past QToolButton, whose handler touches the button after clicked(), in which a host may
+        // have deleted it with the tab widget.
+        QAbstractButton::mouseReleaseEvent(event);
+    }
+};
+
+QVBoxLayout *makePlainLayout(QWidget *widget)
+{
+    auto *layout = new QVBoxLayout(widget);
+    layout->setSpacing(0);
+    layout->setContentsMargins(0, 0, 0, 0);
+    return layout;
+}
+
+} // namespace
+
+TableWidgetEx::TableWidgetEx(QWidget *parent, TableWidgetType type, QString title)
+    : QTabWidget(parent)
+    , m_titleText(title)
+{
+    initStyle();
+    setIsLoadCornerWidget(type == EditableTable);
+    setElideMode(Qt::ElideRight);
+}
+
+void TableWidgetEx::initStyle()
+{
+    m_tabWorkSpaceColor = QColor(69, 69, 69);
+    m_fontColor = QColor(210, 210, 210);
+    m_fontHoverColor = QColor(210, 210, 210);
+    m_fontPressedColor = QColor(210, 210, 210);
+    m_tabNomalColor = QColor(52, 52, 52);
+    m_tabHoverColor = QColor(80, 80, 80);
+    m_tabSelectedColor = QColor(69, 69, 69);
+    m_tabPanelWidth = 100;
+    m_tabPanelHeight = 30;
+    m_leftMargin = 0;
+    m_topMargin = 0;
+    setTableWidgetStyle();
+}
+
+void TableWidgetEx::setTableWidgetStyle()
+{
+    const QString fontColor = fromColorToStr(m_fontColor);
+    orvane::applyStyleSheet(
+        this,
+        "QTabWidget::pane{border:none;background-color:" + fromColorToStr(m_tabWorkSpaceColor)
+            + ";}"
+              "QTabWidget::tab-bar{left:0px;}"
+              "QTabBar::tab{background-color:"
+            + fromColorToStr(m_tabNomalColor) + ";color:" + fontColor
+            + ";font: SimSun Arial;width:" + QString::number(m_tabPanelWidth)
+            + "px;height:" + QString::number(m_tabPanelHeight)
+            // The margins carry no unit and two semicolons follow; hosts rely on the text.
+            + "px;margin-left: " + QString::number(m_leftMargin)
+            + ";margin-top: " + QString::number(m_topMargin)
+            + ";;border-right:1px solid rgb(69,69,69);}"
+              "QTabBar::tab:hover{background-color:"
+            // Hosts rely on a hovered tab keeping the font colour of the others.
+            + fromColorToStr(m_tabHoverColor) + ";color:" + fontColor
+            + ";}"
+              "QTabBar::tab:selected{background-color:"
+            + fromColorToStr(m_tabSelectedColor) + ";color:" + fromColorToStr(m_fontPressedColor)
+            + ";}"
+              "QTabBar::tab:!enabled{width:0px; height:0px;}"
+              "QTabBar::close-button {image: "
+              "url(:/Resource/Images/globalResource/tabwidget/tab_closed_normal.png);} "
+              "QTabBar::close-button:hover {image: "
+              "url(:/Resource/Images/globalResource/tabwidget/tab_closed_hover.png);}"
+              "QTabBar::close-button:pressed {image: "
+              "url(:/Resource/Images/globalResource/tabwidget/tab_closed_pressed.png);}"
+              "QTabBar QToolButton{border:none;}"
+              "QTabBar QToolButton::right-arrow {background-color: rgba(0,0,0,1);border-image: "
+              "url(:/Resource/Images/globalResource/tabwidget/tab_right_normal.png);}"
+              "QTabBar QToolButton::left-arrow {background-color: rgba(0,0,0,1);border-image: "
+              "url(:/Resource/Images/globalResource/tabwidget/tab_left_normal.png);}"
+              "QTabBar::tear{background:transparent;}");
+}
+
+void TableWidgetEx::setIsLoadCornerWidget(bool isLoad)
+{
+    if (!isLoad)
+        return;
+    connect(this, &QTabWidget::tabCloseRequested, this, &TableWidgetEx::on_removeTable,
+            Qt::UniqueConnection);
+    setUsesScrollButtons(true);
+    m_isClosable = true;
+    setTabsClosable(true);
+
+    if (!m_addButton) {
+        m_addButton = new AddButton;
+        m_addButton->setFixedSize(addButtonSize, addButtonSize);
+        connect(m_addButton, &QToolButton::clicked, this, &TableWidgetEx::on_addTable);
+        orvane::applyStyleSheet(
+            m_addButton,
+            QStringLiteral("QToolButton{border-image: "
+                           "url(:/Resource/Images/globalResource/tabwidget/add_normal.png);}"
+                           "QToolButton:hover{border-image: "
+                           "url(:/Resource/Images/globalResource/tabwidget/add_hover.png);}"
+                           "QToolButton:pressed{border-image: "
+                           "url(:/Resource/Images/globalResource/tabwidget/add_pressed.png);}"));
+    }
+    setCornerWidget(m_addButton, Qt::TopRightCorner);
+    m_addButton->show(); // by itself it comes only with a tab widget that is not shown yet
+}
+
+void TableWidgetEx::initCornerWidget(TableWidgetType type)
+{
+    setIsLoadCornerWidget(type == EditableTable);
+}
+
+void TableWidgetEx::setIsShowAddButton(bool isShow)
+{
+    if (m_addButton)
+        m_addButton->setVisible(isShow);
+}
+
+void TableWidgetEx::setTabsClosable(bool closable)
+{
+    QTabWidget::setTabsClosable(closable);
+}
+
+void TableWidgetEx::setCornerWidget(QWidget *widget, Qt::Corner corner)
+{
+    QTabWidget::setCornerWidget(widget, corner);
+}
+
+void TableWidgetEx::removeTab(int index)
+{
+    QTabWidget::removeTab(index);
+}
+
+void TableWidgetEx::addTable(bool first)
+{
+    addTab(new QWidget, m_titleText + " " + QString::number(first ? 1 : m_index + 1));
+    setCurrentIndex(count() - 1);
+    ++m_index;
+}
+
+int TableWidgetEx::addTab(QWidget *page, const QString &text)
+{
+    if (!m_isScrollBarNeeded || !page)
+        return QTabWidget::addTab(page, text);
+    auto *holder = new QWidget;
+    wrapPage(page, holder);
+    setScrollStyle();
+    return QTabWidget::addTab(holder, text);
+}
+
+void TableWidgetEx::wrapPage(QWidget *page, QWidget *holder)
+{
+    m_mainLayout = page->layout() ? qobject_cast<QVBoxLayout *>(page->layout())
+                                  : makePlainLayout(page);
+    m_scrollArea = new QScrollArea(holder);
+    m_scrollArea->setBackgroundRole(QPalette::Base);
+    m_scrollArea->setFrameShape(QFrame::NoFrame);
+    m_scrollArea->setWidget(page);
+    m_scrollArea->setWidgetResizable(true);
+    orvane::applyStyleSheet(holder, QStringLiteral("background:transparent;border:0;"));
+    makePlainLayout(holder)->addWidget(m_scrollArea);
+}
+
+int TableWidgetEx::customAddTab(const QString &text)
+{
+    return addTab(new QWidget, text);
+}
+
+void TableWidgetEx::setTabText(int index, const QString &text)
+{
+    int room = m_tabPanelWidth - (m_isClosable ? closeButtonRoom : 0);
+    if (tabPosition() == QTabWidget::West)
+        room = m_tabPanelHeight;
+    setTabToolTip(index, QFontMetrics(font()).horizontalAdvance(text) > room ? text : QString());
+    QTabWidget::setTabText(index, text);
+}
+
+void TableWidgetEx::setScrollStyle()
+{
+    if (!m_scrollArea)
+        return;
+    // The setters apply styles of their own, of either direction: that of the bar comes last.
+    ScrollBarEx vertical(m_scrollArea->verticalScrollBar(), true);
+    vertical.setScrollWidth(scrollThickness);
+    vertical.setScrollBarWidth(scrollHandle);
+    vertical.setBorderRadius(scrollRadius);
+    vertical.setScrollColor(QColor(69, 69, 69));
+    vertical.setVerticalStyle();
+
+    ScrollBarEx horizontal(m_scrollArea->horizontalScrollBar(), true);
+    horizontal.setScrollHeight(scrollThickness);
+    horizontal.setScrollBarHeight(scrollHandle);
+    horizontal.setBorderRadius(scrollRadius);
+    horizontal.setScrollColor(QColor(69, 69, 69));
+    horizontal.setHorizontalStyle();
+}
+
+void TableWidgetEx::on_addTable()
+{
+    if (count() > 0)
+        Q_EMIT notifyAddTable(m_index);
+}
+
+void TableWidgetEx::on_removeTable(int index)
+{
+    Q_EMIT signals_removeTable(index);
+}
+
+void TableWidgetEx::on_rangeChanged(int /*min*/, int max)
+{
+    if (m_scrollArea)
+        m_scrollArea->verticalScrollBar()->setValue(max);
+}
+
+void TableWidgetEx::paintEvent(QPaintEvent *event)
+{
+    QTabWidget::paintEvent(event);
+    if (!m_isMovedCornerButton || !m_addButton)
+        return;
+    const QRect bar = tabBar()->geometry();
+    int x = bar.x() + bar.width();
+    if (x + m_addButton->width() > width())
+        x = m_addButton->x();
+    m_addButton->move(x, bar.y() + (bar.height() - m_addButton->height()) / 2);
+}
+
+int TableWidgetEx::index() const
+{
+    return m_index;
+}
+
+void TableWidgetEx::setIndex(int index)
+{
+    m_index = index;
+}
+
+QString TableWidgetEx::titleText() const
+{
+    return m_titleText;
+}
+
+void TableWidgetEx::setTitleText(const QString &text)
+{
+    m_titleText = text;
+}
+
+bool TableWidgetEx::bMovedCornerButton() const
+{
+    return m_isMovedCornerButton;
+}
+
+void TableWidgetEx::setBMovedCornerButton(bool isMoved)
+{
+    m_isMovedCornerButton = isMoved;
+    // The next layout puts the button into the corner; painting takes it from there.
+    QEvent layOut(QEvent::LayoutRequest);
+    QCoreApplication::sendEvent(this, &layOut);
+    update();
+}
+
+bool TableWidgetEx::bNeedScrollBar() const
+{
+    return m_isScrollBarNeeded;
+}
+
+void TableWidgetEx::setBNeedScrollBar(bool isNeeded)
+{
+    m_isScrollBarNeeded = isNeeded;
+}
+
+QVBoxLayout *TableWidgetEx::mainLayout() const
+{
+    return m_mainLayout;
+}
+
+void TableWidgetEx::setMainLayout(QVBoxLayout *layout)
+{
+    m_mainLayout = layout;
+}
+
+QColor TableWidgetEx::tabWorkSpaceColor() const
+{
+    return m_tabWorkSpaceColor;
+}
+
+void TableWidgetEx::setTabWorkSpaceColor(const QColor &color)
+{
+    m_tabWorkSpaceColor = color;
+    setTableWidgetStyle();
+}
+
+QColor TableWidgetEx::fontColor() const
+{
+    return m_fontColor;
+}
+
+void TableWidgetEx::setFontColor(const QColor &color)
+{
+    m_fontColor = color;
+    setTableWidgetStyle();
+}
+
+QColor TableWidgetEx::fontHoverColor() const
+{
+    return m_fontHoverColor;
+}
+
+void TableWidgetEx::setFontHoverColor(const QColor &color)
+{
+    m_fontHoverColor = color;
+    setTableWidgetStyle();
+}
+
+QColor TableWidgetEx::fontPressedColor() const
+{
+    return m_fontPressedColor;
+}
+
+void TableWidgetEx::setFontPressedColor(const QColor &color)
+{
+    m_fontPressedColor = color;
+    setTableWidgetStyle();
+}
+
+QColor TableWidgetEx::tabNomalColor() const
+{
+    return m_tabNomalColor;
+}
+
+void TableWidgetEx::setTabNomalColor(const QColor &color)
+{
+    m_tabNomalColor = color;
+    setTableWidgetStyle();
+}
+
+QColor TableWidgetEx::tabHoverColor() const
+{
+    return m_tabHoverColor;
+}
+
+void TableWidgetEx::setTabHoverColor(const QColor &color)
+{
+    m_tabHoverColor = color;
+    setTableWidgetStyle();
+}
+
+QColor TableWidgetEx::tabSelectedColor() const
+{
+    return m_tabSelectedColor;
+}
+
+void TableWidgetEx::setTabSelectedColor(const QColor &color)
+{
+    m_tabSelectedColor = color;
+    setTableWidgetStyle();
+}
+
+int TableWidgetEx::tabPanelWidth() const
+{
+    return m_tabPanelWidth;
+}
+
+void TableWidgetEx::setTabPanelWidth(int width)
+{
+    m_tabPanelWidth = width;
+    setTableWidgetStyle();
+}
+
+int TableWidgetEx::tabPanelHeight() const
+{
+    return m_tabPanelHeight;
+}
+
+void TableWidgetEx::setTabPanelHeight(int height)
+{
+    m_tabPanelHeight = height;
+    setTableWidgetStyle();
+}
+
+int TableWidgetEx::leftMargin() const
+{
+    return m_leftMargin;
+}
+
+void TableWidgetEx::setLeftMargin(int margin)
+{
+    m_leftMargin = margin;
+    setTableWidgetStyle();
+}
+
+int TableWidgetEx::topMargin() const
+{
+    return m_topMargin;
+}
+
+void TableWidgetEx::setTopMargin(int margin)
+{
+    m_topMargin = margin;
+    setTableWidgetStyle();
+}
+
+QString TableWidgetEx::fromColorToStr(QColor color)
+{
+    return orvane::colorText(color);
+}
