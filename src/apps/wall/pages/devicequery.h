@@ -27,7 +27,7 @@ public:
 
     DeviceQuery(const Answer &answer, int delay, QObject *parent = nullptr);
 
-    /// How long a device takes to answer, in milliseconds; counts from the next start().
+    /// How long a device takes to answer, in milliseconds.
     void setDelay(int delay);
     /// Begins to ask these devices. What is running is cancelled. Without devices it has finished
     /// as soon as the event loop runs.

@@ -438,31 +438,40 @@ void DevicesPage::startOrStopTest()
         return;
     }
     PortTable *current = currentTable();
-    m_testedPorts = current ? current->checkedPorts() : QVector<PortRef>();
+    const QVector<PortRef> ports = current ? current->checkedPorts() : QVector<PortRef>();
+    if (ports.isEmpty())
+        return;
     QStringList keys;
-    for (const PortRef &port : qAsConst(m_testedPorts)) {
+    for (const PortRef &port : ports) {
         current->setTestText(port, tr("Waiting"));
         keys.append(portKey(port));
+        m_waitingPorts.insert(keys.last(), port);
     }
-    if (keys.isEmpty())
-        return;
-    m_testState->setText(tr("Testing %1 ports...").arg(keys.size()));
+    m_testedCount = 0;
+    m_testState->setText(tr("Testing %1 ports...").arg(ports.size()));
     m_test->start(keys);
     updateTableButtons();
 }
 
 void DevicesPage::noteTested(const QString &key, bool isThere)
 {
-    for (const PortRef &port : qAsConst(m_testedPorts)) {
-        PortTable *tested = portKey(port) == key ? table(port.senderId) : nullptr;
-        if (tested)
-            tested->setTestText(port, isThere ? tr("Passed") : tr("No answer"));
-    }
+    const auto port = m_waitingPorts.find(key);
+    if (port == m_waitingPorts.end())
+        return;
+    if (PortTable *tested = table(port->senderId))
+        tested->setTestText(*port, isThere ? tr("Passed") : tr("No answer"));
+    m_waitingPorts.erase(port);
+    ++m_testedCount;
 }
 
 void DevicesPage::endTest(bool isComplete)
 {
-    m_testState->setText(isComplete ? tr("%1 ports tested.").arg(m_testedPorts.size())
+    for (const PortRef &port : qAsConst(m_waitingPorts)) {
+        if (PortTable *waiting = table(port.senderId))
+            waiting->setTestText(port, QString());
+    }
+    m_waitingPorts.clear();
+    m_testState->setText(isComplete ? tr("%1 ports tested.").arg(m_testedCount)
                                     : tr("Test stopped."));
     updateTableButtons();
 }

@@ -91,7 +91,8 @@ private:
     DeviceQuery *m_query;
     DeviceQuery *m_test;
     QHash<QString, bool> m_answers; ///< By sender, as far as the last query came.
-    QVector<PortRef> m_testedPorts;
+    QHash<QString, PortRef> m_waitingPorts; ///< That are being tested, by their key.
+    int m_testedCount = 0;
 
     EquipListWidget *m_devices = nullptr;
     PushButtonEx *m_queryButton = nullptr;

@@ -23,8 +23,8 @@ namespace wall
 namespace
 {
 
-constexpr int treeWidth = 64 * look::unit;
-constexpr int fieldsWidth = 72 * look::unit;
+constexpr int treeWidth = 60 * look::unit;
+constexpr int fieldsWidth = 68 * look::unit;
 constexpr int sliderWidth = 30 * look::unit;
 constexpr int firstBrightness = 80; // percent
 
@@ -54,7 +54,7 @@ ModelsPage::ModelsPage(Document *document, QWidget *parent)
     m_fields->setFixedWidth(fieldsWidth);
 
     auto *columns = new QHBoxLayout;
-    columns->setSpacing(2 * look::margin);
+    columns->setSpacing(look::margin + look::gap);
     columns->addWidget(makeColumn(tr("Models"), m_tree));
     columns->addWidget(makeColumn(tr("Properties"), m_fields));
     columns->addWidget(makeColumn(tr("Preview"), makePreview()), 1);

@@ -4,6 +4,7 @@
 
 #include <treeitem.h>
 
+#include <QKeyEvent>
 #include <QSignalBlocker>
 
 namespace wall
@@ -64,6 +65,17 @@ QStringList ModelTree::checkedModels() const
 QTreeWidgetItem *ModelTree::row(const QString &modelId) const
 {
     return m_rows.value(modelId);
+}
+
+void ModelTree::keyPressEvent(QKeyEvent *event)
+{
+    // Qt hands Space to a row's widget, which has no use for it.
+    QTreeWidgetItem *item = row(modelIdOf(currentItem()));
+    if (event->key() != Qt::Key_Space || !item) {
+        TreeViewEx::keyPressEvent(event);
+        return;
+    }
+    item->setCheckState(0, item->checkState(0) == Qt::Checked ? Qt::Unchecked : Qt::Checked);
 }
 
 void ModelTree::fill()

@@ -38,6 +38,9 @@ Q_SIGNALS:
     void currentModelChanged();
     void checkedModelsChanged();
 
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+
 private:
     void fill();
     void updateRow(const QString &modelId);

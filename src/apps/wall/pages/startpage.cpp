@@ -246,7 +246,7 @@ void StartPage::paintEvent(QPaintEvent *event)
     if (!m_isDropShown)
         return;
     QPainter painter(this);
-    painter.setPen(QPen(look::accent, 2));
+    painter.setPen(QPen(look::accent, 2, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
     painter.drawRect(rect().adjusted(1, 1, -1, -1));
 }
 
