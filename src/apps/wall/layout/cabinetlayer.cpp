@@ -15,7 +15,7 @@ namespace
 
 // Pixels of the screen.
 constexpr double leastForGap = 5.0; ///< Side of a cabinet that shows a gap to the next.
-constexpr double leastForOutline = 9.0; ///< Side of a selected cabinet that is drawn outlined.
+constexpr double leastForOutline = 14.0; ///< Side of a selected cabinet that is drawn outlined.
 constexpr double leastForMark = 18.0; ///< Side of a rotated cabinet that shows where its top is.
 constexpr double leastForSmoothness = 6.0; ///< Side of a rotated cabinet whose edges are smooth.
 constexpr double gap = 1.0;
