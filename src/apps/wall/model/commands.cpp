@@ -209,7 +209,7 @@ QString senderProblem(const Project &project, const Sender &sender)
                     .arg(port.number);
             }
             modelIds.insert(entry.modelId);
-            const QString problem = stockCountProblem(entry.count);
+            QString problem = stockCountProblem(entry.count);
             if (!problem.isEmpty())
                 return problem;
         }

@@ -1,11 +1,13 @@
 #include "projectfile.h"
 
+#include <QByteArrayList>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QSaveFile>
 #include <QSet>
 #include <QStringList>
+#include <QVariant>
 
 #include <cmath>
 #include <limits>
@@ -16,8 +18,8 @@ namespace wall
 namespace
 {
 
-constexpr qint64 maxFileSize = 1024 * 1024 * 1024;
-constexpr qint64 chunkSize = 1024 * 1024;
+constexpr int maxFileSize = 1024 * 1024 * 1024;
+constexpr int chunkSize = 1024 * 1024;
 constexpr int maxShownValue = 40; ///< Characters of a wrong value that a message shows.
 
 // How far loading has come, in percent, when the file is read and when its text is parsed.
@@ -25,21 +27,61 @@ constexpr int readPercent = 30;
 constexpr int parsedPercent = 50;
 constexpr int allPercent = 100;
 
-constexpr QLatin1String formatName("orvane-wall");
-constexpr QLatin1String networkKind("network");
-constexpr QLatin1String coaxialKind("coaxial");
+QString formatName()
+{
+    return QStringLiteral("orvane-wall");
+}
+
+QString networkKind()
+{
+    return QStringLiteral("network");
+}
+
+QString coaxialKind()
+{
+    return QStringLiteral("coaxial");
+}
 
 QString quoted(const QString &text)
 {
     return QLatin1Char('"') + text + QLatin1Char('"');
 }
 
-QByteArray jsonText(const QJsonValue &value)
+QByteArray jsonText(const QJsonValue &value);
+
+QByteArray scalarText(const QJsonValue &value)
 {
+    // Whole numbers would lose digits on Qt's way to text, which is by way of a double.
+    const QVariant variant = value.toVariant();
+    if (variant.userType() == QMetaType::LongLong)
+        return QByteArray::number(variant.toLongLong());
     // A document has to be an array or an object.
     const QByteArray array =
         QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::JsonFormat::Compact);
     return array.mid(1, array.size() - 2);
+}
+
+/// The members of an object without its braces, each as \c "name": value.
+QByteArrayList memberTexts(const QJsonObject &object)
+{
+    QByteArrayList texts;
+    for (auto member = object.begin(); member != object.end(); ++member)
+        texts.append(scalarText(member.key()) + ": " + jsonText(member.value()));
+    return texts;
+}
+
+/// A value in one line.
+QByteArray jsonText(const QJsonValue &value)
+{
+    if (value.isObject())
+        return '{' + memberTexts(value.toObject()).join(", ") + '}';
+    if (!value.isArray())
+        return scalarText(value);
+    QByteArrayList texts;
+    const QJsonArray array = value.toArray();
+    for (const QJsonValue &element : array)
+        texts.append(jsonText(element));
+    return '[' + texts.join(", ") + ']';
 }
 
 /// A value as a message shows it.
@@ -151,7 +193,7 @@ public:
     /// A text that names something.
     QString id(const QString &name)
     {
-        const QString id = text(name);
+        QString id = text(name);
         if (id.isEmpty())
             fail(name, QStringLiteral("the text is empty"));
         return id;
@@ -280,9 +322,9 @@ ProjectData Reader::read(const QJsonObject &root)
     ObjectReader object(root, top, &m_problem);
 
     const QString format = object.text(QStringLiteral("format"));
-    if (format != formatName) {
+    if (format != formatName()) {
         object.fail(QStringLiteral("format"),
-                    QStringLiteral("%1 is not %2").arg(quoted(format), quoted(formatName)));
+                    QStringLiteral("%1 is not %2").arg(quoted(format), quoted(formatName())));
     }
     const int version =
         object.wholeNumber(QStringLiteral("version"), 1, std::numeric_limits<int>::max());
@@ -383,12 +425,12 @@ Port Reader::readPort(const QJsonValue &value, const Place &place)
     Port port;
     port.number = object.wholeNumber(QStringLiteral("number"), minPortNumber, maxPortNumber);
     const QString kind = object.text(QStringLiteral("kind"));
-    if (kind == coaxialKind) {
+    if (kind == coaxialKind()) {
         port.kind = PortKind::Coaxial;
-    } else if (kind != networkKind) {
+    } else if (kind != networkKind()) {
         object.fail(QStringLiteral("kind"),
                     QStringLiteral("%1 is neither %2 nor %3")
-                        .arg(shown(kind), quoted(networkKind), quoted(coaxialKind)));
+                        .arg(shown(kind), quoted(networkKind()), quoted(coaxialKind())));
     }
     const Place stock{&place, QStringLiteral("stock")};
     const QJsonArray stockList = object.optionalList(stock.member);
@@ -459,7 +501,7 @@ PlacedCabinet Reader::readCabinet(const QJsonValue &value, const Place &place)
 
 QString Reader::knownModel(ObjectReader *object)
 {
-    const QString id = object->text(QStringLiteral("model"));
+    QString id = object->text(QStringLiteral("model"));
     const auto found = m_modelIds.constFind(id);
     if (found != m_modelIds.cend())
         return *found;
@@ -481,10 +523,12 @@ LoadResult cancelledLoading()
     return result;
 }
 
-/// "line 3, column 14", both counted from 1 and the column in characters.
-QString lineAndColumn(const QByteArray &json, int offset)
+/// "line 3, column 14", both counted from 1 and the column in characters: where the parser stopped.
+QString stoppedAt(const QByteArray &json, const QJsonParseError &error)
 {
-    const QByteArray before = json.left(offset);
+    // Mostly it has taken the character that it does not like; not so behind the last value.
+    const bool isTaken = error.error != QJsonParseError::GarbageAtEnd && error.offset < json.size();
+    const QByteArray before = json.left(qMax(0, isTaken ? error.offset - 1 : error.offset));
     const int line = before.count('\n') + 1;
     const QByteArray lineBefore = before.mid(before.lastIndexOf('\n') + 1);
     const int column = QString::fromUtf8(lineBefore).toUcs4().size() + 1;
@@ -496,35 +540,28 @@ bool goesOn(const Progress &progress, int percent)
     return !progress || progress(percent);
 }
 
-/// Composes the members of an object in one line, the given ones first, then those it keeps.
+/// Composes the members of an object, the given ones first, then those it keeps.
 class ObjectText
 {
 public:
     ObjectText &add(const char *name, const QByteArray &json)
     {
-        m_text += m_text.isEmpty() ? "\"" : ", \"";
-        m_text += name;
-        m_text += "\": ";
-        m_text += json;
+        m_members.append('"' + QByteArray(name) + "\": " + json);
         return *this;
     }
-    ObjectText &add(const char *name, const QString &text) { return add(name, jsonText(text)); }
+    ObjectText &add(const char *name, const QString &text) { return add(name, scalarText(text)); }
     ObjectText &add(const char *name, int number) { return add(name, QByteArray::number(number)); }
-    ObjectText &add(const char *name, double number) { return add(name, jsonText(number)); }
+    ObjectText &add(const char *name, double number) { return add(name, scalarText(number)); }
     ObjectText &add(const QJsonObject &extra)
     {
-        if (extra.isEmpty())
-            return *this;
-        const QByteArray object = QJsonDocument(extra).toJson(QJsonDocument::JsonFormat::Compact);
-        m_text += m_text.isEmpty() ? "" : ", ";
-        m_text += object.mid(1, object.size() - 2);
+        m_members += memberTexts(extra);
         return *this;
     }
-    QByteArray members() const { return m_text; }
-    QByteArray object() const { return '{' + m_text + '}'; }
+    QByteArray members(const QByteArray &separator) const { return m_members.join(separator); }
+    QByteArray object() const { return '{' + members(", ") + '}'; }
 
 private:
-    QByteArray m_text;
+    QByteArrayList m_members;
 };
 
 QByteArray modelText(const CabinetModel &model)
@@ -555,7 +592,7 @@ QByteArray portText(const Port &port)
     }
     return ObjectText()
         .add("number", port.number)
-        .add("kind", port.kind == PortKind::Coaxial ? coaxialKind : networkKind)
+        .add("kind", port.kind == PortKind::Coaxial ? coaxialKind() : networkKind())
         .add("stock", '[' + stock.join(", ") + ']')
         .add(port.extra)
         .object();
@@ -598,7 +635,7 @@ private:
     {
         auto found = m_names.find(id);
         if (found == m_names.end())
-            found = m_names.insert(id, jsonText(id));
+            found = m_names.insert(id, scalarText(id));
         return *found;
     }
 
@@ -623,11 +660,11 @@ bool writeList(QIODevice *device, const char *name, const QVector<Element> &elem
 bool writeProject(QIODevice *device, const ProjectData &data, Steps *steps)
 {
     const QByteArray head = ObjectText()
-                                .add("format", formatName)
+                                .add("format", formatName())
                                 .add("version", projectFileVersion)
                                 .add("name", data.name)
                                 .add(data.extra)
-                                .members();
+                                .members(",\n    ");
     device->write("{\n    " + head);
     CabinetTexts cabinets;
     return writeList(device, "models", data.models, modelText, steps)
@@ -667,8 +704,8 @@ LoadResult loadProject(const QString &file, const Progress &progress)
         json += chunk;
         if (json.size() > maxFileSize)
             return failure(file, {}, QStringLiteral("is larger than 1 GiB"));
-        const qint64 known = qMax<qint64>(size, json.size());
-        if (!goesOn(progress, int(readPercent * json.size() / known)))
+        const qint64 done = json.size();
+        if (!goesOn(progress, int(readPercent * done / qMax(size, done))))
             return cancelledLoading();
     }
     return parseProject(json, file, progress);
@@ -678,10 +715,12 @@ LoadResult parseProject(const QByteArray &json, const QString &file, const Progr
 {
     if (!goesOn(progress, readPercent))
         return cancelledLoading();
+    if (json.trimmed().isEmpty())
+        return failure(file, {}, QStringLiteral("is empty"));
     QJsonParseError syntax;
     const QJsonDocument document = QJsonDocument::fromJson(json, &syntax);
     if (syntax.error != QJsonParseError::NoError) {
-        return failure(file, lineAndColumn(json, syntax.offset), syntax.errorString());
+        return failure(file, stoppedAt(json, syntax), syntax.errorString());
     }
     if (!document.isObject())
         return failure(file, {}, QStringLiteral("there is a list at the top, not an object"));
@@ -703,27 +742,31 @@ LoadResult parseProject(const QByteArray &json, const QString &file, const Progr
 SaveResult saveProject(const QString &file, const ProjectData &data, const Progress &progress)
 {
     SaveResult result;
-    const auto failed = [&result, &file](const QSaveFile &device) {
-        result.error = {file, {}, QStringLiteral("cannot be saved: %1").arg(device.errorString())};
-        return result;
-    };
     result.state = SaveResult::Cancelled;
     if (!goesOn(progress, 0))
         return result;
+    const auto failed = [&result, &file](const QString &problem) {
+        result.state = SaveResult::Failed;
+        result.error = {file, {}, QStringLiteral("cannot be saved: ") + problem};
+        return result;
+    };
     QSaveFile device(file);
-    result.state = SaveResult::Failed;
     if (!device.open(QIODevice::WriteOnly))
-        return failed(device);
+        return failed(device.errorString());
     Steps steps(progress, 0,
                 qint64(data.models.size()) + data.senders.size() + data.cabinets.size());
-    const bool isWritten = writeProject(&device, data, &steps);
-    if (steps.isCancelled() || (isWritten && !goesOn(progress, allPercent))) {
-        device.cancelWriting();
-        result.state = SaveResult::Cancelled;
+    // A commit does not see that its own last flush failed, so that is done before.
+    const bool isWritten = writeProject(&device, data, &steps) && device.flush();
+    if (steps.isCancelled())
         return result;
+    if (!isWritten) {
+        return failed(
+            QStringLiteral("not all of it could be written (%1)").arg(device.errorString()));
     }
-    if (!isWritten || !device.commit())
-        return failed(device);
+    if (!goesOn(progress, allPercent))
+        return result;
+    if (!device.commit())
+        return failed(device.errorString());
     result.state = SaveResult::Saved;
     return result;
 }
