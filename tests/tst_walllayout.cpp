@@ -182,6 +182,8 @@ public:
 Q_DECLARE_METATYPE(QVector<QRect>)
 Q_DECLARE_METATYPE(Qt::Key)
 Q_DECLARE_METATYPE(QVector<int>)
+Q_DECLARE_METATYPE(QVector<QPoint>)
+Q_DECLARE_METATYPE(std::function<void(Stage &)>)
 
 class TestWallLayout : public TestCase
 {
@@ -1135,6 +1137,93 @@ private Q_SLOTS:
         stage.selection.setCabinets({id});
         QTRY_VERIFY(!painted.region.isEmpty());
         QVERIFY(painted.region.boundingRect().width() < 90);
+    }
+
+    void changesRepaintWhatTheyTouch_data()
+    {
+        QTest::addColumn<std::function<void(Stage &)>>("change");
+        QTest::addColumn<QVector<QPoint>>("places");
+        const auto row = [](const char *name, const std::function<void(Stage &)> &change,
+                            const QVector<QPoint> &places) {
+            QTest::newRow(name) << change << places;
+        };
+        const QPoint first(50, 50);
+        const QPoint last(250, 50);
+        row("select another",
+            [](Stage &stage) { stage.selection.setCabinets({stage.cabinet(firstPort, 2)}); },
+            {first, last});
+        row("place", [](Stage &stage) { stage.view.placeNext(firstPort, "square"); },
+            {last, QPoint(300, 50), QPoint(350, 50)});
+        row("remove",
+            [](Stage &stage) {
+                stage.document.push(
+                    new RemoveCabinetsCommand(stage.project(), {stage.cabinet(firstPort, 2)}));
+            },
+            {last, QPoint(200, 50)});
+        row("move",
+            [](Stage &stage) {
+                stage.document.push(new MoveCabinetsCommand(
+                    stage.project(), CabinetIds{stage.cabinet(firstPort, 2)}, QPoint(150, 0)));
+            },
+            {last, QPoint(400, 50), QPoint(170, 50)});
+        row("rotate",
+            [](Stage &stage) {
+                stage.document.push(new RotateCabinetsCommand(
+                    stage.project(), CabinetIds{stage.cabinet(firstPort, 2)}, 45));
+            },
+            {last, QPoint(315, 50)});
+        row("reorder",
+            [](Stage &stage) {
+                CabinetIds line = stage.project()->line(firstPort);
+                std::reverse(line.begin(), line.end());
+                stage.document.push(new ReorderLineCommand(stage.project(), firstPort, line));
+            },
+            {first, last});
+        row("change the model",
+            [](Stage &stage) {
+                CabinetModel wide = *stage.project()->model("square");
+                wide.size = QSize(120, 100);
+                stage.document.push(new ChangeModelCommand(stage.project(), wide));
+            },
+            {first, last, QPoint(315, 50), QPoint(50, 350)});
+        row("choose a port", [](Stage &stage) { stage.selection.setPort(firstPort); }, {first});
+        row("view mode", [](Stage &stage) { stage.view.setViewMode(ViewMode::DataLines); },
+            {first});
+        row("line display", [](Stage &stage) { stage.view.setLineDisplay(LineDisplay::None); },
+            {first});
+        row("emphasis", [](Stage &stage) { stage.view.setCurrentPortEmphasized(true); }, {first});
+        row("grid", [](Stage &stage) { stage.view.setGridVisible(false); }, {QPoint(64, 200)});
+        row("grid size", [](Stage &stage) { stage.view.setGridSize(50); }, {QPoint(64, 200)});
+        row("ordering",
+            [](Stage &stage) {
+                stage.selection.setPort(firstPort);
+                stage.view.setOrdering(true);
+            },
+            {first});
+        row("another project", [](Stage &stage) { stage.document.reset({}, QString()); }, {});
+    }
+
+    void changesRepaintWhatTheyTouch()
+    {
+        QFETCH(std::function<void(Stage &)>, change);
+        QFETCH(QVector<QPoint>, places);
+        Stage stage;
+        stage.selection.setCabinets({stage.cabinet(firstPort, 0)});
+        QCoreApplication::processEvents();
+        PaintedArea painted(stage.view.viewport());
+        const auto isPainted = [&] {
+            return !painted.region.isEmpty()
+                && std::all_of(places.cbegin(), places.cend(), [&](const QPoint &place) {
+                       return painted.region.contains(stage.inView(place.x(), place.y()));
+                   });
+        };
+        change(stage);
+        QTRY_VERIFY(isPainted());
+        if (stage.steps() == 0)
+            return;
+        painted.region = QRegion();
+        stage.document.undoStack()->undo();
+        QTRY_VERIFY(isPainted());
     }
 
     void viewAndDocumentGoInAnyOrder()

@@ -15,7 +15,7 @@ namespace
 
 // Pixels of the screen.
 constexpr double leastForGap = 5.0; ///< Side of a cabinet that shows a gap to the next.
-constexpr double leastForOutline = 9.0; ///< Side of a selected cabinet that is drawn outlined.
+constexpr double leastForOutline = 14.0; ///< Side of a selected cabinet that is drawn outlined.
 constexpr double leastForMark = 18.0; ///< Side of a rotated cabinet that shows where its top is.
 constexpr double leastForSmoothness = 6.0; ///< Side of a rotated cabinet whose edges are smooth.
 constexpr double gap = 1.0;
@@ -117,11 +117,8 @@ private:
     {
         m_painter->setPen(Qt::NoPen);
         QVector<QRectF> run;
-        const CabinetShape *runShape = nullptr; // the last one in the run
+        const CabinetShape *previous = nullptr;
         const auto paintRun = [&] {
-            if (run.isEmpty())
-                return;
-            m_painter->setBrush(fillOf(*runShape));
             m_painter->drawRects(run);
             run.clear();
         };
@@ -130,26 +127,31 @@ private:
             if (shape.rotation != 0) {
                 paintRun();
                 paintRotated(shape);
+                previous = nullptr;
                 continue;
             }
-            if (runShape && (runShape->model != shape.model || runShape->line != shape.line))
+            if (!previous || previous->model != shape.model || previous->line != shape.line) {
                 paintRun();
+                m_painter->setBrush(fillOf(shape));
+            }
             QRectF rect = viewRect(shape);
             if (qMin(rect.width(), rect.height()) >= leastForGap)
                 rect.adjust(0, 0, -gap, -gap);
             run.append(rect);
-            runShape = &shape;
+            previous = &shape;
         }
         paintRun();
     }
 
     void paintRotated(const CabinetShape &shape)
     {
-        const QColor fill = fillOf(shape);
         const QPolygonF outline = m_toView.map(shape.outline());
         m_painter->setRenderHint(QPainter::Antialiasing, shorterSide(shape) >= leastForSmoothness);
-        m_painter->setBrush(fill);
+        m_painter->setBrush(fillOf(shape));
+        if (shorterSide(shape) >= leastForGap)
+            m_painter->setPen(QPen(layoutcolors::ground, gap));
         m_painter->drawConvexPolygon(outline);
+        m_painter->setPen(Qt::NoPen);
         if (shorterSide(shape) >= leastForMark) {
             // A triangle that stands in the middle of the edge that was the upper one.
             const QPointF across = (outline.at(1) - outline.at(0));

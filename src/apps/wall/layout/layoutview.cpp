@@ -42,6 +42,8 @@ constexpr double wheelNotch = 120.0;
 constexpr int mostScrollStep = 40; ///< Of a pointer that is dragged outside.
 constexpr double leastLevelZoom = 0.01; ///< Of level 0; a slider need not go farther.
 
+const QColor scrollGround(56, 56, 56);
+
 /// The drag's bytes are those of a record that is still alive: copying it shares its texts.
 StructCabinet recordIn(const QByteArray &bytes)
 {
@@ -63,7 +65,7 @@ void styleScrollBar(QScrollBar *bar)
     look.setBorderRadius(3);
     look.setIconWidth(0);
     look.setIconHeight(0);
-    look.setScrollColor(QColor(56, 56, 56));
+    look.setScrollColor(scrollGround);
     look.setScrollHandleColor(QColor(80, 80, 80));
     look.setScrollHandlePressedColor(QColor(99, 99, 99));
     if (bar->orientation() == Qt::Vertical)
@@ -123,6 +125,10 @@ LayoutView::LayoutView(Document *document, Selection *selection, QWidget *parent
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     styleScrollBar(horizontalScrollBar());
     styleScrollBar(verticalScrollBar());
+    auto *corner = new QWidget;
+    corner->setPalette(QPalette(scrollGround));
+    corner->setAutoFillBackground(true);
+    setCornerWidget(corner);
     // Only what changed is painted, and the layers restore the painter themselves.
     setViewportUpdateMode(MinimalViewportUpdate);
     setOptimizationFlags(DontSavePainterState | DontAdjustForAntialiasing);

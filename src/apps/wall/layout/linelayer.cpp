@@ -20,6 +20,7 @@ namespace
 constexpr double leastForSmoothness = 9.0;
 constexpr double leastForArrows = 26.0;
 constexpr double leastForNumbers = 44.0;
+constexpr double leastNumberedSide = 30.0; ///< Of the cabinets themselves.
 
 // Pixels of the screen.
 constexpr double markReach = 16.0;
@@ -87,13 +88,17 @@ private:
             && line.bounds.bottom() >= m_exposed.top();
     }
 
+    double cabinetSideOf(const PortLine &line) const
+    {
+        const QSize size = m_scene.shape(line.cabinets.constFirst())->size;
+        return qMin(size.width(), size.height()) * m_zoom;
+    }
+
     /// How far its cabinets lie apart on the screen, on average.
     double spacingOf(const PortLine &line) const
     {
-        if (line.points.size() == 1) {
-            const QSize size = m_scene.shape(line.cabinets.constFirst())->size;
-            return qMin(size.width(), size.height()) * m_zoom;
-        }
+        if (line.points.size() == 1)
+            return cabinetSideOf(line);
         double length = 0;
         for (int i = 1; i < line.points.size(); ++i)
             length += (line.points.at(i) - line.points.at(i - 1)).manhattanLength();
@@ -114,7 +119,7 @@ private:
             return;
         }
         paintPath(path, color, width, spacing);
-        if (isProminent && spacing >= leastForNumbers)
+        if (isProminent && spacing >= leastForNumbers && cabinetSideOf(line) >= leastNumberedSide)
             paintNumbers(path, color);
         else
             paintStart(path.constFirst(), color, spacing);
@@ -169,11 +174,11 @@ private:
         m_painter->setRenderHint(QPainter::Antialiasing, !isFar);
         m_painter->setPen(isFar ? QPen(Qt::NoPen) : QPen(layoutcolors::ground, 1));
         m_painter->setBrush(color);
+        const QRectF mark(place.x() - radius, place.y() - radius, 2 * radius, 2 * radius);
         if (isFar)
-            m_painter->drawRect(
-                QRectF(place.x() - radius, place.y() - radius, 2 * radius, 2 * radius));
+            m_painter->drawRect(mark);
         else
-            m_painter->drawEllipse(place, radius, radius);
+            m_painter->drawEllipse(mark);
     }
 
     /// The number of every cabinet; that of the first is filled.

@@ -191,4 +191,7 @@ private:
 
 } // namespace wall
 
+Q_DECLARE_TYPEINFO(wall::CabinetPosition, Q_MOVABLE_TYPE);
+Q_DECLARE_TYPEINFO(wall::CabinetRotation, Q_MOVABLE_TYPE);
+
 #endif // WALL_PROJECT_H

@@ -84,7 +84,7 @@ public:
 private:
     QSize sizeOf(const QString &modelId) const
     {
-        for (const CabinetModel &model : m_data->models) {
+        for (const CabinetModel &model : qAsConst(m_data->models)) {
             if (model.id == modelId)
                 return model.size;
         }
