@@ -447,9 +447,9 @@ void DevicesPage::startOrStopTest()
         return;
     }
     PortTable *current = currentTable();
-    const QVector<PortRef> ports = current ? current->checkedPorts() : QVector<PortRef>();
-    if (ports.isEmpty())
+    if (!current || current->checkedPorts().isEmpty())
         return;
+    const QVector<PortRef> ports = current->checkedPorts();
     QStringList keys;
     for (const PortRef &port : ports) {
         current->setTestText(port, tr("Waiting"));
