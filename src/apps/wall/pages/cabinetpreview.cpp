@@ -125,7 +125,7 @@ void CabinetPreview::drawPicture(QPainter &painter, const QRectF &cabinet) const
 void CabinetPreview::drawGrid(QPainter &painter, const QRectF &cabinet) const
 {
     const double square = gridStep() * m_model.pitch * scale();
-    painter.setPen(QColor(0, 0, 0, 90));
+    painter.setPen(QPen(QColor(0, 0, 0, 90), 0)); // as thin as can be at every scale factor
     for (int column = 1; column * gridStep() < m_model.size.width(); ++column) {
         const double x = cabinet.left() + column * square;
         painter.drawLine(QLineF(x, cabinet.top(), x, cabinet.bottom()));
