@@ -486,6 +486,12 @@ void tst_WallModels::totalsAreLive()
     f.document.undoStack()->undo();
     QTRY_COMPARE(f.text("wallWeight"), QString("2,918.1 kg"));
     QCOMPARE(f.text("wallCabinets"), QString("403"));
+
+    // A page that is not seen catches up when it is.
+    f.page->hide();
+    f.document.undoStack()->redo();
+    f.page->show();
+    QCOMPARE(f.text("wallCabinets"), QString("323"));
 }
 
 void tst_WallModels::previewIsToScale()

@@ -26,7 +26,7 @@ PortRef takeBackup(QVector<PortRef> *freePorts, const PortRef &port)
         backup = freePorts->begin();
     if (backup == freePorts->end())
         return {};
-    const PortRef taken = *backup;
+    PortRef taken = *backup;
     freePorts->erase(backup);
     return taken;
 }

@@ -125,11 +125,15 @@ void CabinetPreview::drawPicture(QPainter &painter, const QRectF &cabinet) const
 void CabinetPreview::drawGrid(QPainter &painter, const QRectF &cabinet) const
 {
     const double square = gridStep() * m_model.pitch * scale();
-    painter.setPen(QColor(0, 0, 0, 90));
-    for (double x = cabinet.left() + square; x < cabinet.right(); x += square)
+    painter.setPen(QPen(QColor(0, 0, 0, 90), 0)); // as thin as can be at every scale factor
+    for (int column = 1; column * gridStep() < m_model.size.width(); ++column) {
+        const double x = cabinet.left() + column * square;
         painter.drawLine(QLineF(x, cabinet.top(), x, cabinet.bottom()));
-    for (double y = cabinet.top() + square; y < cabinet.bottom(); y += square)
+    }
+    for (int row = 1; row * gridStep() < m_model.size.height(); ++row) {
+        const double y = cabinet.top() + row * square;
         painter.drawLine(QLineF(cabinet.left(), y, cabinet.right(), y));
+    }
 }
 
 void CabinetPreview::drawMeasures(QPainter &painter, const QRectF &cabinet) const

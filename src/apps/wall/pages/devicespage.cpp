@@ -45,6 +45,15 @@ QString portKey(const PortRef &port)
     return QStringLiteral("%1:%2").arg(port.number).arg(port.senderId);
 }
 
+bool isSamePlan(const QList<BackUpParam> &a, const QList<BackUpParam> &b)
+{
+    const auto isSameRecord = [](const BackUpParam &left, const BackUpParam &right) {
+        return left.firstText == right.firstText && left.secondText == right.secondText
+            && left.thirdText == right.thirdText && left.fourthText == right.fourthText;
+    };
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(), isSameRecord);
+}
+
 QVBoxLayout *makeColumnLayout(QWidget *column)
 {
     auto *layout = new QVBoxLayout(column);
@@ -253,7 +262,7 @@ void DevicesPage::connectProject()
             m_tables->setTabText(m_tables->indexOf(changed), m_project->sender(senderId)->name);
     });
 
-    const auto updateBackupsSoon = [this] { m_backupTimer->start(); };
+    const auto updateBackupsSoon = &DevicesPage::updateBackupsSoon;
     connect(m_project, &Project::lineChanged, this, updateBackupsSoon);
     connect(m_project, &Project::senderInserted, this, updateBackupsSoon);
     connect(m_project, &Project::senderRemoved, this, updateBackupsSoon);
@@ -271,7 +280,7 @@ void DevicesPage::reset()
         closeTable(0);
     fillDevices();
     openFirstTables();
-    updateBackups();
+    updateBackupsSoon();
 }
 
 void DevicesPage::fillDevices()
@@ -438,9 +447,9 @@ void DevicesPage::startOrStopTest()
         return;
     }
     PortTable *current = currentTable();
-    const QVector<PortRef> ports = current ? current->checkedPorts() : QVector<PortRef>();
-    if (ports.isEmpty())
+    if (!current || current->checkedPorts().isEmpty())
         return;
+    const QVector<PortRef> ports = current->checkedPorts();
     QStringList keys;
     for (const PortRef &port : ports) {
         current->setTestText(port, tr("Waiting"));
@@ -488,9 +497,29 @@ void DevicesPage::updateTableButtons()
     m_testButton->setEnabled(isRunning || (current && !current->checkedPorts().isEmpty()));
 }
 
+void DevicesPage::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    if (m_isPlanOld)
+        updateBackups();
+}
+
+void DevicesPage::updateBackupsSoon()
+{
+    m_isPlanOld = true;
+    // While it is not seen, the page costs the others nothing.
+    if (isVisible())
+        m_backupTimer->start();
+}
+
 void DevicesPage::updateBackups()
 {
+    m_isPlanOld = false;
     const QList<BackUpParam> records = backupPlan(*m_project);
+    // Most changes of a data line leave the plan as it is.
+    if (isSamePlan(records, m_shownPlan))
+        return;
+    m_shownPlan = records;
     // The table was made without rows, and its count follows by hand.
     m_backups->setRowCount(records.size());
     m_backups->setTableRowCount(records.size());

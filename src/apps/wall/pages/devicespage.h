@@ -3,7 +3,10 @@
 
 #include "model/values.h"
 
+#include <backupparam.h>
+
 #include <QHash>
+#include <QList>
 #include <QWidget>
 
 class CustomListWidgetMulItem;
@@ -53,6 +56,7 @@ public:
     PortTable *table(const QString &senderId) const;
 
 protected:
+    void showEvent(QShowEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
@@ -83,6 +87,7 @@ private:
     void endTest(bool isComplete);
     void updateTableButtons();
 
+    void updateBackupsSoon();
     void updateBackups();
 
     Document *m_document;
@@ -106,6 +111,8 @@ private:
     QLabel *m_testState = nullptr;
     TableWidgetCustom *m_backups = nullptr;
     QTimer *m_backupTimer = nullptr;
+    QList<BackUpParam> m_shownPlan;
+    bool m_isPlanOld = true;
 };
 
 } // namespace wall

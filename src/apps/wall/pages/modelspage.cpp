@@ -74,14 +74,12 @@ ModelsPage::ModelsPage(Document *document, QWidget *parent)
     m_totalsTimer->setSingleShot(true);
     m_totalsTimer->setInterval(0);
     connect(m_totalsTimer, &QTimer::timeout, this, &ModelsPage::updateTotals);
-    const auto updateSoon = [this] { m_totalsTimer->start(); };
-    connect(m_project, &Project::totalsChanged, this, updateSoon);
-    connect(m_project, &Project::wasReset, this, updateSoon);
-    connect(m_tree, &ModelTree::checkedModelsChanged, this, updateSoon);
+    connect(m_project, &Project::totalsChanged, this, &ModelsPage::updateTotalsSoon);
+    connect(m_project, &Project::wasReset, this, &ModelsPage::updateTotalsSoon);
+    connect(m_tree, &ModelTree::checkedModelsChanged, this, &ModelsPage::updateTotalsSoon);
 
     m_fields->setModelId(m_tree->currentModel());
     updatePreview();
-    updateTotals();
 }
 
 QWidget *ModelsPage::makeColumn(const QString &heading, QWidget *content)
@@ -201,8 +199,24 @@ void ModelsPage::showTotals(const TotalsRow &row, const Totals &totals)
     row.power->setText(powerText(totals.power));
 }
 
+void ModelsPage::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    if (m_areTotalsOld)
+        updateTotals();
+}
+
+void ModelsPage::updateTotalsSoon()
+{
+    m_areTotalsOld = true;
+    // While it is not seen, the page costs the others nothing.
+    if (isVisible())
+        m_totalsTimer->start();
+}
+
 void ModelsPage::updateTotals()
 {
+    m_areTotalsOld = false;
     showTotals(m_wallRow, m_project->totals());
     showTotals(m_checkedRow, totalsOfModels(*m_project, m_tree->checkedModels()));
 }

@@ -32,6 +32,9 @@ public:
     /// \a document stays the caller's and lives at least as long as the page.
     explicit ModelsPage(Document *document, QWidget *parent = nullptr);
 
+protected:
+    void showEvent(QShowEvent *event) override;
+
 private:
     /// One line of the table of totals.
     struct TotalsRow {
@@ -47,6 +50,7 @@ private:
     QWidget *makeTotals();
     TotalsRow addTotalsRow(QGridLayout *layout, const QString &name, const QString &objectName);
     static void showTotals(const TotalsRow &row, const Totals &totals);
+    void updateTotalsSoon();
     void updateTotals();
     void updatePreview();
 
@@ -58,6 +62,7 @@ private:
     TotalsRow m_wallRow;
     TotalsRow m_checkedRow;
     QTimer *m_totalsTimer;
+    bool m_areTotalsOld = true;
 };
 
 } // namespace wall

@@ -14,6 +14,8 @@ namespace
 {
 
 constexpr int headerHeight = 11 * look::unit; // the table's header check box needs 36 pixels
+// In pixels, check boxes first; the stock takes what is left.
+constexpr int columnWidths[] = {30, 56, 88, 72, 64, 92};
 constexpr int portRowHeight = 8 * look::unit;
 
 } // namespace
@@ -79,7 +81,11 @@ void PortTable::fill()
     setRowCount(m_ports.size());
     setAddCheckBoxVisible(true);
     setHorizontalHeaderLabels({QString(), tr("Port"), tr("Kind"), tr("Placed"), tr("Left"),
-                               tr("Models left"), tr("Test")});
+                               tr("Test"), tr("Models left")});
+    for (int column = PortColumn; column < StockColumn; ++column) {
+        horizontalHeader()->setSectionResizeMode(column, QHeaderView::Fixed);
+        setColumnWidth(column, columnWidths[column]);
+    }
     if (auto *all = findChild<QCheckBox *>(QString(), Qt::FindDirectChildrenOnly)) {
         all->setAccessibleName(tr("All ports"));
         all->setToolTip(tr("Check or uncheck all ports"));
@@ -136,7 +142,8 @@ void PortTable::setCell(int row, Column column, const QString &text)
     QTableWidgetItem *cell = item(row, column);
     if (!cell) {
         cell = new QTableWidgetItem;
-        cell->setTextAlignment(Qt::AlignCenter);
+        cell->setTextAlignment(column == StockColumn ? int(Qt::AlignLeft | Qt::AlignVCenter)
+                                                     : int(Qt::AlignCenter));
         setItem(row, column, cell);
     }
     cell->setText(text);

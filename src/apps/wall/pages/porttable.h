@@ -29,8 +29,8 @@ public:
         KindColumn,
         PlacedColumn,
         LeftColumn,
-        StockColumn,
         TestColumn,
+        StockColumn,
         ColumnCount
     };
 
