@@ -21,6 +21,7 @@
 
 #include <QCheckBox>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QUndoStack>
 
@@ -157,12 +158,17 @@ private Q_SLOTS:
     void headersFitTheDrawer()
     {
         Shown host;
-        for (const bool isEditing : {false, true}) {
-            host.panel->setEditing(isEditing);
-            QTRY_VERIFY(host.item(0)->minimumSizeHint().width() <= host.item(0)->width());
-            const auto *area = host.panel->findChild<QScrollArea *>();
-            QVERIFY(host.item(0)->width() <= area->viewport()->width());
+        const auto *area = host.panel->findChild<QScrollArea *>();
+        for (const int height : {900, 250}) { // without and with a scroll bar
+            host.panel->resize(host.panel->width(), height);
+            for (const bool isEditing : {false, true}) {
+                host.panel->setEditing(isEditing);
+                QTRY_COMPARE(host.item(0)->width(), area->viewport()->width());
+                QVERIFY(header(host.item(0))->minimumSizeHint().width()
+                        <= header(host.item(0))->width());
+            }
         }
+        QVERIFY(area->verticalScrollBar()->isVisible());
     }
 
     void buildsBodiesWhenTheyAreNeeded()
@@ -310,8 +316,7 @@ private Q_SLOTS:
         QVERIFY(button->isEnabled());
         QCOMPARE(button->cabinetCount(), 1);
         QCOMPARE(button->accessibleName(), QString("Stage 2.6 half, 1 left"));
-        host.document.push(
-            new RemoveCabinetsCommand(host.project(), host.project()->line(port)));
+        host.document.push(new RemoveCabinetsCommand(host.project(), host.project()->line(port)));
         QCOMPARE(button->cabinetCount(), 2);
         QCOMPARE(host.cabinet(frameIndex, 5, 0)->cabinetCount(), 40);
         QVERIFY(host.cabinet(frameIndex, 5, 0)->isEnabled());
@@ -347,10 +352,9 @@ private Q_SLOTS:
     {
         Shown host;
         host.expand(frameIndex);
-        connect(host.panel.get(), &SenderPanel::placeRequested, this,
-                [&host](const PortRef &port, const QString &modelId) {
-                    host.place(modelId, port);
-                });
+        connect(
+            host.panel.get(), &SenderPanel::placeRequested, this,
+            [&host](const PortRef &port, const QString &modelId) { host.place(modelId, port); });
         ToolButtonEx *button = host.cabinet(frameIndex, 1, 0);
         QCOMPARE(button->cabinetCount(), 1);
         windowmouse::click(button);
@@ -541,14 +545,12 @@ private Q_SLOTS:
         Shown host;
         host.expand(0);
         host.selection.setPort({mainLeft, 2});
-        host.document.push(
-            new ChangeStockCommand(host.project(), {mainLeft, 2}, "cube-39", 6));
+        host.document.push(new ChangeStockCommand(host.project(), {mainLeft, 2}, "cube-39", 6));
         QCOMPARE(host.row(0, 2)->cabinetButtonList().size(), 2);
         QCOMPARE(host.cabinet(0, 2, 1)->cabinetCount(), 6);
         QVERIFY(host.row(0, 2)->bPressed());
         QTRY_VERIFY(host.cabinet(0, 2, 1)->isVisible());
-        host.document.push(
-            new ChangeStockCommand(host.project(), {mainLeft, 2}, "cube-39", 9));
+        host.document.push(new ChangeStockCommand(host.project(), {mainLeft, 2}, "cube-39", 9));
         QCOMPARE(host.cabinet(0, 2, 1)->cabinetCount(), 9);
         host.document.undoStack()->undo();
         host.document.undoStack()->undo();

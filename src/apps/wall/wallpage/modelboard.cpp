@@ -309,8 +309,7 @@ void ModelBoard::requestModel(const QString &modelId)
         Q_EMIT placeRequested(port, modelId);
     } else {
         CustomMegBox::informationMessageBox(
-            window(), title,
-            QStringLiteral("No %1 is left on %2.").arg(model->name, portText()),
+            window(), title, QStringLiteral("No %1 is left on %2.").arg(model->name, portText()),
             QStringLiteral("OK"));
     }
 }
