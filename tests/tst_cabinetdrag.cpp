@@ -3,6 +3,7 @@
 // test.
 
 #include "support/pointer.h"
+#include "support/pointerscript.h"
 #include "support/testcase.h"
 
 #include <toolbuttonex.h>
@@ -140,97 +141,6 @@ public:
     QStringList reports;
 };
 
-/// A sequence of deeds and of conditions to wait for. It goes on inside the event loop of a drag,
-/// where the test function itself is held up, and gives up on a condition that is not met in time.
-class Script : public QObject
-{
-public:
-    Script()
-    {
-        connect(&m_timer, &QTimer::timeout, this, &Script::goOn);
-        connect(&m_xdotool, &QProcess::errorOccurred, this,
-                [this] { giveUp("xdotool: " + m_xdotool.errorString()); });
-    }
-
-    void act(std::function<void()> deed)
-    {
-        m_steps << Step{QString(), [deed] {
-                            deed();
-                            return true;
-                        }};
-    }
-    void wait(const QString &what, std::function<bool()> condition)
-    {
-        m_steps << Step{what, std::move(condition)};
-    }
-    /// Moves the pointer to \a place on the screen.
-    void move(QPoint place)
-    {
-        xdotool({"mousemove", QString::number(place.x()), QString::number(place.y())});
-        wait("the pointer is there", [place] { return QCursor::pos() == place; });
-    }
-    void press() { xdotool({"mousedown", "1"}); }
-    void release() { xdotool({"mouseup", "1"}); }
-
-    /// Runs all steps; what went wrong, or nothing.
-    QString run()
-    {
-        QObject watch; // over a drag that does not end, and so never lets this function go on
-        QTimer::singleShot(60000, &watch, [] { qFatal("a drag does not end"); });
-        m_timer.start(1);
-        m_patience.start();
-        while (m_timer.isActive())
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-        return m_failure;
-    }
-
-private:
-    struct Step {
-        QString what;
-        std::function<bool()> isDone;
-    };
-
-    void xdotool(const QStringList &arguments)
-    {
-        act([this, arguments] { m_xdotool.start("xdotool", arguments); });
-        wait("xdotool " + arguments.join(' '), [this] {
-            return m_xdotool.state() == QProcess::NotRunning
-                && m_xdotool.exitStatus() == QProcess::NormalExit && m_xdotool.exitCode() == 0;
-        });
-    }
-
-    void goOn()
-    {
-        if (m_isBusy) // a deed has an event loop of its own
-            return;
-        m_isBusy = true;
-        while (m_next < m_steps.size() && m_timer.isActive() && m_steps.at(m_next).isDone()) {
-            ++m_next;
-            m_patience.restart();
-        }
-        m_isBusy = false;
-        if (m_next == m_steps.size())
-            m_timer.stop();
-        else if (m_patience.hasExpired(20000))
-            giveUp("waited in vain: " + m_steps.at(m_next).what);
-    }
-
-    void giveUp(const QString &why)
-    {
-        m_failure = why;
-        m_timer.stop();
-        QDrag::cancel(); // ends a drag that holds up the test function
-    }
-
-    QTimer m_timer;
-    QProcess m_xdotool;
-    QElapsedTimer m_patience;
-    QList<Step> m_steps;
-    int m_next = 0;
-    bool m_isBusy = false;
-    QString m_failure;
-};
-
 } // namespace
 
 class TestCabinetDrag : public TestCase
@@ -239,7 +149,7 @@ class TestCabinetDrag : public TestCase
 
 private:
     /// Presses the button at (10, 10) and moves by \a distance to the right.
-    static void pressAndMove(Script &script, Wall &wall, int distance)
+    static void pressAndMove(PointerScript &script, Wall &wall, int distance)
     {
         script.move(wall.onButton(10, 10));
         script.press();
@@ -248,12 +158,12 @@ private:
         script.wait("the button sees the move",
                     [&wall, distance] { return wall.lastMove == QPoint(10 + distance, 10); });
     }
-    static void startDrag(Script &script, Wall &wall)
+    static void startDrag(PointerScript &script, Wall &wall)
     {
         pressAndMove(script, wall, 69);
         script.wait("the drag has begun", [&] { return wall.drag() != nullptr; });
     }
-    static void drop(Script &script, Wall &wall)
+    static void drop(PointerScript &script, Wall &wall)
     {
         script.move(wall.onReceiver());
         script.wait("the receiver sees the drag",
@@ -262,7 +172,7 @@ private:
         script.wait("the receiver has the drop", [&] { return wall.receiver->drops == 1; });
         script.wait("the drag is over", [&] { return wall.drag() == nullptr; });
     }
-    static void clickModel(Script &script, Wall &wall)
+    static void clickModel(PointerScript &script, Wall &wall)
     {
         script.move(wall.onModel());
         script.press();
@@ -292,7 +202,7 @@ private Q_SLOTS:
         Wall wall;
         wall.button->setBIsVsender(isSender);
         QVERIFY(pointer::showAndWait(&wall));
-        Script script;
+        PointerScript script;
         bool hadDrag = false;
         pressAndMove(script, wall, 68);
         script.act([&] { hadDrag = wall.drag() != nullptr; });
@@ -313,7 +223,7 @@ private Q_SLOTS:
         QPoint hotSpot;
         QString sheetInside;
         QCursor cursor;
-        Script script;
+        PointerScript script;
         startDrag(script, wall);
         script.act([&] {
             pixmap = wall.drag()->pixmap();
@@ -352,7 +262,7 @@ private Q_SLOTS:
         QVERIFY(pointer::showAndWait(&wall));
         const QString wholeSheet = wall.button->styleSheet();
         QStringList reportsAfterTheDrag;
-        Script script;
+        PointerScript script;
         startDrag(script, wall);
         drop(script, wall);
         script.act([&] { reportsAfterTheDrag = wall.reports; });
@@ -373,7 +283,7 @@ private Q_SLOTS:
         Wall wall;
         wall.receiver->setAcceptDrops(false);
         QVERIFY(pointer::showAndWait(&wall));
-        Script script;
+        PointerScript script;
         startDrag(script, wall);
         script.move(wall.onReceiver());
         script.release();
@@ -412,7 +322,7 @@ private Q_SLOTS:
         QPixmap pixmap;
         QPoint hotSpot;
         QCursor cursor;
-        Script script;
+        PointerScript script;
         startDrag(script, wall);
         script.act([&] {
             pixmap = wall.drag()->pixmap();
@@ -449,7 +359,7 @@ private Q_SLOTS:
         wall.button->setCabnetInfo(record);
         record = filledRecord(); // the button alone holds the long text now
         QVERIFY(pointer::showAndWait(&wall));
-        Script script;
+        PointerScript script;
         startDrag(script, wall);
         script.act([&] { wall.button->setCabnetInfo(record); });
         drop(script, wall);
@@ -473,7 +383,7 @@ private Q_SLOTS:
         QVERIFY(pointer::showAndWait(&wall));
         QPointer<QDrag> drag;
         wall.receiver->onDrop = [&] { delete wall.button; };
-        Script script;
+        PointerScript script;
         startDrag(script, wall);
         script.act([&] { drag = wall.drag(); });
         drop(script, wall);
@@ -494,7 +404,7 @@ private Q_SLOTS:
         wall.button->setBIsVsender(isSender);
         QVERIFY(pointer::showAndWait(&wall));
         QPointer<QDrag> drag;
-        Script script;
+        PointerScript script;
         startDrag(script, wall);
         script.act([&] {
             drag = wall.drag();

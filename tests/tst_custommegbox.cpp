@@ -66,8 +66,8 @@ PushButtonEx *button(const QWidget *box, const QString &frame)
     return box->findChild<QFrame *>(frame)->findChild<PushButtonEx *>();
 }
 
-/// Whether a shown box stands at \a place, but for the frame of 2 pixels that the offscreen platform
-/// draws around any window, now inside and now outside of its position.
+/// Whether a shown box stands at \a place, but for the frame of 2 pixels that the offscreen
+/// platform draws around any window, now inside and now outside of its position.
 bool isAt(const QWidget *box, QPoint place)
 {
     const QPoint difference = box->pos() - place;
@@ -143,19 +143,28 @@ private Q_SLOTS:
         QTest::addColumn<bool>("hasClose");
         QTest::addColumn<QString>("applyText");
         QTest::addColumn<QString>("cancelText");
-        QTest::newRow("information") << "information" << "information.png" << false << false
-                                     << false << "" << "";
-        QTest::newRow("waring") << "waring" << "waring.png" << false << false << false << "" << "";
-        QTest::newRow("critical") << "critical" << "error.png" << false << false << false << ""
+        QTest::newRow("information") << "information"
+                                     << "information.png" << false << false << false << ""
+                                     << "";
+        QTest::newRow("waring") << "waring"
+                                << "waring.png" << false << false << false << ""
+                                << "";
+        QTest::newRow("critical") << "critical"
+                                  << "error.png" << false << false << false << ""
                                   << "cancelText";
-        QTest::newRow("question") << "question" << "question.png" << true << false << false << ""
+        QTest::newRow("question") << "question"
+                                  << "question.png" << true << false << false << ""
                                   << "No text";
-        QTest::newRow("question with apply") << "question with apply" << "question.png" << true
-                                             << true << false << "Use text" << "No text";
-        QTest::newRow("tip") << "tip" << "question.png" << true << true << false << "Use text"
+        QTest::newRow("question with apply")
+            << "question with apply"
+            << "question.png" << true << true << false << "Use text"
+            << "No text";
+        QTest::newRow("tip") << "tip"
+                             << "question.png" << true << true << false << "Use text"
                              << "No text";
-        QTest::newRow("tip with close") << "tip with close" << "question.png" << true << true
-                                        << true << "Use text" << "No text";
+        QTest::newRow("tip with close") << "tip with close"
+                                        << "question.png" << true << true << true << "Use text"
+                                        << "No text";
     }
 
     void boxIsFilledByItsKind()
@@ -207,9 +216,9 @@ private Q_SLOTS:
         QTest::addColumn<QString>("helper");
         QTest::addColumn<Act>("act");
         QTest::addColumn<int>("expected");
-        for (const char *helper : {"information", "waring", "critical", "question",
-                                   "question with apply", "question kept open", "tip",
-                                   "tip kept open", "tip with close"}) {
+        for (const char *helper :
+             {"information", "waring", "critical", "question", "question with apply",
+              "question kept open", "tip", "tip kept open", "tip with close"}) {
             QTest::addRow("%s: OK", helper) << helper << clickOn("frame_ok") << 1;
             QTest::addRow("%s: Return", helper) << helper << press(Qt::Key_Return) << 1;
             QTest::addRow("%s: Enter", helper) << helper << press(Qt::Key_Enter) << 1;
@@ -305,8 +314,7 @@ private Q_SLOTS:
         const QSize screen = QGuiApplication::primaryScreen()->size();
         bool seen = false;
         showAndAct(shownBy(helper), nullptr, [&](CustomMessageBox *box) {
-            QVERIFY(isAt(box,
-                         QPoint((screen.width() - 400) / 2, (screen.height() - 203) / 2)));
+            QVERIFY(isAt(box, QPoint((screen.width() - 400) / 2, (screen.height() - 203) / 2)));
             seen = true;
             box->reject();
         });
@@ -322,8 +330,8 @@ private Q_SLOTS:
         parent->setGeometry(200, 100, 600, 500);
         QVERIFY(pointer::showAndWait(parent));
         QPointer<CustomMessageBox> shown;
-        const int result =
-            showAndAct(shownBy(helper), parent, [=](CustomMessageBox *) { delete parent; }, &shown);
+        const int result = showAndAct(
+            shownBy(helper), parent, [=](CustomMessageBox *) { delete parent; }, &shown);
         QCOMPARE(result, 0);
         QVERIFY(shown.isNull());
     }
@@ -331,11 +339,10 @@ private Q_SLOTS:
     void boxesNest()
     {
         int inner = neverEnded;
-        const int outer =
-            showAndAct(shownBy("question"), nullptr, [&](CustomMessageBox *box) {
-                inner = showAndAct(shownBy("information"), box, press(Qt::Key_Return));
-                windowmouse::click(button(box, "frame_cancel"));
-            });
+        const int outer = showAndAct(shownBy("question"), nullptr, [&](CustomMessageBox *box) {
+            inner = showAndAct(shownBy("information"), box, press(Qt::Key_Return));
+            windowmouse::click(button(box, "frame_cancel"));
+        });
         QCOMPARE(inner, 1);
         QCOMPARE(outer, 0);
     }

@@ -287,8 +287,8 @@ private Q_SLOTS:
         QFETCH(bool, hideApply);
         CustomMessageBox box;
         const QPixmap icon(signs + "waring.png");
-        box.setBoxInformation("A title", "A text", icon, false, hideOk, hideCancel, hideApply, "Use",
-                              "Yes", "No");
+        box.setBoxInformation("A title", "A text", icon, false, hideOk, hideCancel, hideApply,
+                              "Use", "Yes", "No");
         QCOMPARE(child<QLabel>(&box, "labelTitle")->text(), QString("  A title  "));
         QCOMPARE(tips(&box)->text(), QString("A text"));
         QCOMPARE(child<QLabel>(&box, "labelIcon")->pixmap(Qt::ReturnByValue).toImage(),
@@ -382,9 +382,9 @@ private Q_SLOTS:
         fill(box, text);
         const QSize expected(400 + wider, 203 + linesHigher * lineHeight);
         QCOMPARE(box->size(), expected);
-        const QPoint place = wider == 0 ? formPlace
-                                        : QPoint(300 + (1000 - expected.width()) / 2,
-                                                 300 + (600 - expected.height()) / 2);
+        const QPoint place = wider == 0
+            ? formPlace
+            : QPoint(300 + (1000 - expected.width()) / 2, 300 + (600 - expected.height()) / 2);
         QCOMPARE(box->pos(), place);
     }
 
@@ -683,8 +683,9 @@ private Q_SLOTS:
         delete parent;
         fill(box, QString("Text of many words. ").repeated(40));
         const QSize screen = QGuiApplication::primaryScreen()->size();
-        QCOMPARE(box->pos(),
-                 QPoint((screen.width() - box->width()) / 2, (screen.height() - box->height()) / 2));
+        QCOMPARE(
+            box->pos(),
+            QPoint((screen.width() - box->width()) / 2, (screen.height() - box->height()) / 2));
     }
 
     void boxShownWithoutExecDeletesItself()
@@ -795,10 +796,11 @@ private Q_SLOTS:
         fill(&box, "text");
         QVERIFY(pointer::showAndWait(&box));
         QWidget *held = part == "CustomMessageBox" ? &box : child<QWidget>(&box, part);
-        const QPoint at = held->mapTo(&box, part == "CustomMessageBox" ? QPoint(3, 3)
-                                          : part == "frame"           ? QPoint(2, 2)
-                                          : part == "widgetBottom"    ? QPoint(2, 2)
-                                                                      : held->rect().center());
+        const QPoint at = held->mapTo(&box,
+                                      part == "CustomMessageBox"   ? QPoint(3, 3)
+                                          : part == "frame"        ? QPoint(2, 2)
+                                          : part == "widgetBottom" ? QPoint(2, 2)
+                                                                   : held->rect().center());
         const QPoint before = box.pos();
         QTest::mousePress(box.windowHandle(), Qt::LeftButton, Qt::NoModifier, at);
         QTest::mouseMove(box.windowHandle(), at + QPoint(9, 14));
@@ -839,7 +841,8 @@ private Q_SLOTS:
         box.resize(size);
         const QImage image = box.grab().toImage();
         QCOMPARE(image.size(), size);
-        // The lines lie on the borders between pixels: each covers half of the pixel on either side.
+        // The lines lie on the borders between pixels: each covers half of the pixel on either
+        // side.
         const QVector<int> alphas{150, 100, 79, 63, 50, 38, 27, 17, 8, 0};
         int before = -1;
         for (int distance = 0; distance < 10; ++distance) {
@@ -848,11 +851,10 @@ private Q_SLOTS:
             if (ring + 1 < alphas.size())
                 clear *= 1.0 - alphas.at(ring + 1) / 2.0 / 255.0;
             const int expected = qRound(255.0 * (1.0 - clear));
-            for (const QPoint &place :
-                 {QPoint(distance, size.height() / 2),
-                  QPoint(size.width() - 1 - distance, size.height() / 2),
-                  QPoint(size.width() / 2, distance),
-                  QPoint(size.width() / 2, size.height() - 1 - distance)}) {
+            for (const QPoint &place : {QPoint(distance, size.height() / 2),
+                                        QPoint(size.width() - 1 - distance, size.height() / 2),
+                                        QPoint(size.width() / 2, distance),
+                                        QPoint(size.width() / 2, size.height() - 1 - distance)}) {
                 const QColor color = image.pixelColor(place);
                 QVERIFY2(qAbs(color.alpha() - expected) <= 2,
                          qPrintable(QString("%1 from the edge: %2, not %3")

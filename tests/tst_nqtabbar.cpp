@@ -521,8 +521,7 @@ private Q_SLOTS:
         bar.resize(500, 40);
         QVERIFY(pointer::showAndWait(&bar));
         QSignalSpy changed(&bar, &NQTabBar::currentChanged);
-        QTest::mouseClick(bar.getTabBar(), Qt::LeftButton, Qt::NoModifier,
-                          bar.tabRect(0).center());
+        QTest::mouseClick(bar.getTabBar(), Qt::LeftButton, Qt::NoModifier, bar.tabRect(0).center());
         QCOMPARE(changed.count(), 1);
         QCOMPARE(changed.first(), QVariantList{0});
     }
@@ -544,10 +543,10 @@ private Q_SLOTS:
         for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
             methods += QString::fromLatin1(meta.method(i).methodSignature());
             const bool isSignal = i < meta.methodOffset() + 2;
-            QCOMPARE(meta.method(i).methodType(), isSignal ? QMetaMethod::Signal
-                                                           : QMetaMethod::Slot);
-            QCOMPARE(meta.method(i).access(), isSignal ? QMetaMethod::Public
-                                                       : QMetaMethod::Private);
+            QCOMPARE(meta.method(i).methodType(),
+                     isSignal ? QMetaMethod::Signal : QMetaMethod::Slot);
+            QCOMPARE(meta.method(i).access(),
+                     isSignal ? QMetaMethod::Public : QMetaMethod::Private);
         }
         QCOMPARE(methods,
                  (QStringList{"currentChanged(int)", "tabCloseRequested(int)",

@@ -54,8 +54,7 @@ QString state(const NQTabWidget &tabs)
 
 QAbstractButton *closeButton(const NQTabWidget &tabs, int index)
 {
-    return qobject_cast<QAbstractButton *>(
-        tabs.getTabBar()->tabButton(index, QTabBar::RightSide));
+    return qobject_cast<QAbstractButton *>(tabs.getTabBar()->tabButton(index, QTabBar::RightSide));
 }
 
 } // namespace
@@ -692,8 +691,7 @@ private Q_SLOTS:
             QCOMPARE(meta.method(i).methodType(), QMetaMethod::Slot);
             QCOMPARE(meta.method(i).access(), QMetaMethod::Public);
         }
-        QCOMPARE(methods,
-                 (QStringList{"slot_currentShow(int)", "slot_tabCloseRequested(int)"}));
+        QCOMPARE(methods, (QStringList{"slot_currentShow(int)", "slot_tabCloseRequested(int)"}));
     }
 
     void diesWithItsParentOrBefore()

@@ -8,12 +8,12 @@
 namespace
 {
 
-const QString captioned = QStringLiteral(
-    "QToolButton{background:#454545;border-radius:5px;font:9pt \"微软雅黑\" pt;}"
-    "QToolButton:hover{background:#404040;border:1px solid #5d5d5d;}"
-    "QToolButton:checked{background:#262626;border:1px solid #666666;}"
-    "QToolButton:Pressed{background:#262626;border:1px solid #666666;}"
-    "QToolButton:disabled{background:#454545;}");
+const QString captioned =
+    QStringLiteral("QToolButton{background:#454545;border-radius:5px;font:9pt \"微软雅黑\" pt;}"
+                   "QToolButton:hover{background:#404040;border:1px solid #5d5d5d;}"
+                   "QToolButton:checked{background:#262626;border:1px solid #666666;}"
+                   "QToolButton:Pressed{background:#262626;border:1px solid #666666;}"
+                   "QToolButton:disabled{background:#454545;}");
 
 const QString sideBySide =
     QStringLiteral("QToolButton{background:#545454;border-radius:5px;font:9pt \"微软雅黑\" pt;}"
@@ -250,10 +250,9 @@ private Q_SLOTS:
             << Set(&B::setTopToBottomHoverBtnBorderColor) << Get(&B::topToBottomHoverBtnBorderColor)
             << begin + "QToolButton:hover{background:#404040;border:1px solid #80010203;}" + checked
                 + pressed + disabled;
-        QTest::newRow("pressed border")
-            << Set(&B::setTopToBottomPressedBtnBorderColor)
-            << Get(&B::topToBottomPressedBtnBorderColor)
-            << begin + hover
+        QTest::newRow("pressed border") << Set(&B::setTopToBottomPressedBtnBorderColor)
+                                        << Get(&B::topToBottomPressedBtnBorderColor)
+                                        << begin + hover
                 + "QToolButton:checked{background:#262626;border:1px solid #80010203;}"
                   "QToolButton:Pressed{background:#262626;border:1px solid #80010203;}"
                 + disabled;

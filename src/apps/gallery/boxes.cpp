@@ -5,6 +5,7 @@
 
 #include <custommessagebox.h>
 
+#include <QAbstractButton>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPixmap>
@@ -24,21 +25,31 @@ CustomMessageBox *makeEmbedded(QWidget *parent, const Content &content)
 {
     auto *box = new CustomMessageBox(parent);
     fill(box, content);
-    box->setParent(parent, Qt::Widget);
-    box->setAttribute(Qt::WA_DeleteOnClose, false);
-    box->setFixedSize(box->size());
+    embed(box, parent);
     return box;
 }
 
-Sample makePart(QWidget *parent, const QRect &visible)
+void embed(CustomMessageBox *box, QWidget *parent)
+{
+    box->setParent(parent, Qt::Widget);
+    box->setAttribute(Qt::WA_DeleteOnClose, false);
+    box->setFixedSize(box->size());
+}
+
+Sample makePart(QWidget *parent, const QString &name)
 {
     auto *window = new QWidget(parent);
-    window->setFixedSize(visible.size());
     CustomMessageBox *box =
         makeEmbedded(window, {"question.png", "Send the layout?", "Apply", "OK", "Cancel"});
     box->setCloseBtnIsVisible(true);
+    box->grab(); // lays it out
+    auto *part = box->findChild<QWidget *>(name);
+    const QRect visible =
+        QRect(part->mapTo(box, QPoint(0, 0)), part->size()).adjusted(-4, -4, 4, 4);
+    window->setFixedSize(visible.size());
     box->move(-visible.topLeft());
-    return {window, box, box};
+    auto *button = part->findChild<QAbstractButton *>();
+    return {window, box, button ? button : part};
 }
 
 QWidget *makeCalls(const QList<QPair<QString, std::function<int(QWidget *)>>> &calls)

@@ -30,8 +30,11 @@ void fill(CustomMessageBox *box, const Content &content);
 /// A filled box, embedded in \a parent.
 CustomMessageBox *makeEmbedded(QWidget *parent, const Content &content);
 
-/// The part \a visible of an embedded box with all its buttons.
-Sample makePart(QWidget *parent, const QRect &visible);
+/// Embeds \a box, which has been filled, in \a parent.
+void embed(CustomMessageBox *box, QWidget *parent);
+
+/// One child of an embedded box with all its buttons, by its name, with some ground around it.
+Sample makePart(QWidget *parent, const QString &name);
 
 /// A button for each of \a calls, by their names; each shows what the call returned beside them.
 QWidget *makeCalls(const QList<QPair<QString, std::function<int(QWidget *parent)>>> &calls);

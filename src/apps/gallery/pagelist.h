@@ -51,6 +51,13 @@ class Page;
     PAGE("Tabs", TabBarRd)                                                                         \
     PAGE("Tabs", NQTabBar)                                                                         \
     PAGE("Tabs", NQTabWidget)                                                                      \
+    PAGE("Lists, tables and trees", ListWidgetEx)                                                  \
+    PAGE("Lists, tables and trees", CustomListWidgetItem)                                          \
+    PAGE("Lists, tables and trees", ListWidgetTitle)                                               \
+    PAGE("Lists, tables and trees", EquipListWidget)                                               \
+    PAGE("Lists, tables and trees", CustomListWidgetMulItem)                                       \
+    PAGE("Lists, tables and trees", TreeViewEx)                                                    \
+    PAGE("Lists, tables and trees", TreeItem)                                                      \
     PAGE("Foundation", DefineCommonData)                                                           \
     PAGE("Foundation", Images)
 

@@ -9,8 +9,8 @@
 namespace
 {
 
-constexpr Qt::Alignment left = Qt::AlignLeft | Qt::AlignVCenter;
-constexpr Qt::Alignment right = Qt::AlignRight | Qt::AlignVCenter;
+constexpr Qt::Alignment atLeft = Qt::AlignLeft | Qt::AlignVCenter;
+constexpr Qt::Alignment atRight = Qt::AlignRight | Qt::AlignVCenter;
 
 void setColumn(LabelEx *label, int width, Qt::Alignment alignment)
 {
@@ -22,11 +22,11 @@ void setColumn(LabelEx *label, int width, Qt::Alignment alignment)
 void setNarrowColumn(LabelEx *label, int column)
 {
     if (column == 0)
-        setColumn(label, 206, left);
+        setColumn(label, 206, atLeft);
     else if (column == 1)
-        setColumn(label, 110, left);
+        setColumn(label, 110, atLeft);
     else if (column == 2)
-        setColumn(label, 40, right);
+        setColumn(label, 40, atRight);
 }
 
 /// Makes \a label the column \a column of a row of one or two texts.
@@ -34,9 +34,9 @@ void setWideColumn(LabelEx *label, int column)
 {
     label->setContentsMargins(6, 0, 6, 0);
     if (column == 0)
-        setColumn(label, 256, left);
+        setColumn(label, 256, atLeft);
     else
-        label->setAlignment(right);
+        label->setAlignment(atRight);
 }
 
 } // namespace

@@ -52,7 +52,6 @@ void setButtonSize(QWidget *frame, QWidget *button, int w, int h)
 CustomMessageBox::CustomMessageBox(QWidget *parent)
     : QDialog(parent)
     , m_ui(std::make_unique<Ui::CustomMessageBox>())
-    , m_result(CloseResult)
 {
     m_ui->setupUi(this);
     setWindowIcon(QIcon(":/Resource/Image/logo.png"));
@@ -61,8 +60,7 @@ CustomMessageBox::CustomMessageBox(QWidget *parent)
     m_parentWidget = parent;
     m_ui->formLayout->setLabelAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     m_ui->formLayout->setFormAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    orvane::applyStyleSheet(this,
-                            QStringLiteral("color:rgb(210,210,210);font:SimSun Arial;"));
+    orvane::applyStyleSheet(this, QStringLiteral("color:rgb(210,210,210);font:SimSun Arial;"));
     orvane::applyStyleSheet(
         m_ui->toolButton,
         QStringLiteral("QToolButton{border-image:"
@@ -139,7 +137,8 @@ void CustomMessageBox::moveWindow(QWidget *parent)
     // Neither a parent that is no window nor a screen off the origin is mapped; hosts rely on the
     // places that result.
     if (!parent) {
-        const QSize screen = QGuiApplication::primaryScreen()->size();
+        const QScreen *primary = QGuiApplication::primaryScreen();
+        const QSize screen = primary ? primary->size() : QSize();
         move((screen.width() - width()) / 2, (screen.height() - height()) / 2);
         return;
     }

@@ -101,7 +101,7 @@ private:
     bool m_isDragging = false;
     QPoint m_dragOffset;
     bool m_keepOpenOnApply = false;
-    int m_result;
+    int m_result = 255; ///< As when the close button ended the box, until something has.
     QPointer<QWidget> m_parentWidget;
 };
 

@@ -155,7 +155,7 @@ void EquipListWidget::slot_emitSettingData(CustomListWidgetMulItem *item)
 bool EquipListWidget::eventFilter(QObject *watched, QEvent *event)
 {
     // The animation may have been started before the list got its place.
-    if (watched == m_list && (event->type() == QEvent::Move || event->type() == QEvent::Resize))
+    if ((event->type() == QEvent::Move || event->type() == QEvent::Resize) && watched == m_list)
         coverList();
     return QWidget::eventFilter(watched, event);
 }

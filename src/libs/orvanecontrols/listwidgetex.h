@@ -50,7 +50,8 @@ public:
     /// The background of the selected row. \see setBgPressedColor()
     QColor bgPressedColor() const;
     /// Sets the text colour (default black). Until the first call the sheet names no text colour
-    /// and the list inherits it. \see fontColor()
+    /// and the list inherits it. It colours items without a widget; a project's row takes the text
+    /// colour of the palette, or of a sheet around the list. \see fontColor()
     void setFontColor(const QColor &color);
     /// The text colour. \see setFontColor()
     QColor fontColor() const;

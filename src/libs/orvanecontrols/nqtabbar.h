@@ -69,46 +69,83 @@ public:
     /// Inserts a tab before \a index, at the end when there is no such tab, makes it the current
     /// one and returns its index.
     int insertTab(int index, const QString &text);
+    /// The same with an icon.
     int insertTab(int index, const QIcon &icon, const QString &text);
     /// Adds a tab at the end, makes it the current one and returns its index.
     int addTab(const QString &text);
+    /// The same with an icon.
     int addTab(const QIcon &icon, const QString &text);
 
-    // What follows is QTabBar's.
+    // What follows does what the bar's function of that name does.
+    /// As QTabBar::removeTab().
     void removeTab(int index);
+    /// As QTabBar::moveTab().
     void moveTab(int from, int to);
+    /// As QTabBar::isTabEnabled().
     bool isTabEnabled(int index) const;
+    /// As QTabBar::setTabEnabled().
     void setTabEnabled(int index, bool enabled);
+    /// As QTabBar::tabText().
     QString tabText(int index) const;
+    /// As QTabBar::setTabText().
     void setTabText(int index, const QString &text);
+    /// As QTabBar::tabTextColor().
     QColor tabTextColor(int index) const;
+    /// As QTabBar::setTabTextColor().
     void setTabTextColor(int index, const QColor &color);
+    /// As QTabBar::tabIcon().
     QIcon tabIcon(int index) const;
+    /// As QTabBar::setTabIcon().
     void setTabIcon(int index, const QIcon &icon);
+    /// As QTabBar::elideMode().
     Qt::TextElideMode elideMode() const;
+    /// As QTabBar::setElideMode().
     void setElideMode(Qt::TextElideMode mode);
+    /// As QTabBar::setTabToolTip().
     void setTabToolTip(int index, const QString &tip);
+    /// As QTabBar::tabToolTip().
     QString tabToolTip(int index) const;
+    /// As QTabBar::setTabData().
     void setTabData(int index, const QVariant &data);
+    /// As QTabBar::tabData().
     QVariant tabData(int index) const;
+    /// As QTabBar::tabRect().
     QRect tabRect(int index) const;
+    /// As QTabBar::tabAt().
     int tabAt(const QPoint &pos) const;
+    /// As QTabBar::currentIndex().
     int currentIndex() const;
+    /// As QTabBar::count().
     int count() const;
+    /// As QTabBar::iconSize().
     QSize iconSize() const;
+    /// As QTabBar::setIconSize().
     void setIconSize(const QSize &size);
+    /// As QTabBar::tabsClosable().
     bool tabsClosable() const;
+    /// As QTabBar::setTabsClosable().
     void setTabsClosable(bool closable);
+    /// As QTabBar::setTabButton().
     void setTabButton(int index, QTabBar::ButtonPosition position, QWidget *widget);
+    /// As QTabBar::tabButton().
     QWidget *tabButton(int index, QTabBar::ButtonPosition position) const;
+    /// As QTabBar::expanding().
     bool expanding() const;
+    /// As QTabBar::setExpanding().
     void setExpanding(bool enabled);
+    /// As QTabBar::autoHide().
     bool autoHide() const;
+    /// As QTabBar::setAutoHide().
     void setAutoHide(bool hide);
+    /// As QTabBar::isMovable().
     bool isMovable() const;
+    /// As QTabBar::setMovable().
     void setMovable(bool movable);
+    /// As QTabBar::usesScrollButtons().
     bool usesScrollButtons() const;
+    /// As QTabBar::setUsesScrollButtons().
     void setUsesScrollButtons(bool useButtons);
+    /// As QTabBar::setCurrentIndex().
     void setCurrentIndex(int index);
 
     /// The text of a colour in a sheet: "#rrggbb", "#aarrggbb" when translucent, "#000000" when

@@ -34,9 +34,11 @@ public:
     /// current ones and returns the index. A null page is ignored (the result is -1); one that is
     /// here already moves. The same holds for insertTab().
     int addTab(QWidget *page, const QString &text);
+    /// The same with an icon.
     int addTab(QWidget *page, const QIcon &icon, const QString &text);
     /// The same before \a index, at the end when there is no such tab.
     int insertTab(int index, QWidget *page, const QString &text);
+    /// The same with an icon.
     int insertTab(int index, QWidget *page, const QIcon &icon, const QString &text);
     /// Removes the tab at \a index and its page, without deleting the page. An index without a tab
     /// is ignored.
@@ -75,26 +77,46 @@ public:
     /// The maximum width last set, 0 until then. \see setTabMaxWidth()
     int getTabMaxWidth() const;
 
-    // What follows is QTabBar's.
+    // What follows does what the bar's function of that name does.
+    /// As QTabBar::isTabEnabled().
     bool isTabEnabled(int index) const;
+    /// As QTabBar::setTabEnabled().
     void setTabEnabled(int index, bool enabled);
+    /// As QTabBar::tabText().
     QString tabText(int index) const;
+    /// As QTabBar::tabIcon().
     QIcon tabIcon(int index) const;
+    /// As QTabBar::setTabIcon().
     void setTabIcon(int index, const QIcon &icon);
+    /// As QTabBar::setTabToolTip().
     void setTabToolTip(int index, const QString &tip);
+    /// As QTabBar::tabToolTip().
     QString tabToolTip(int index) const;
+    /// As QTabBar::currentIndex().
     int currentIndex() const;
+    /// As QTabBar::count().
     int count() const;
+    /// As QTabBar::tabsClosable().
     bool tabsClosable() const;
+    /// As QTabBar::autoHide().
     bool autoHide() const;
+    /// As QTabBar::setAutoHide().
     void setAutoHide(bool hide);
+    /// As QTabBar::isMovable().
     bool isMovable() const;
+    /// As QTabBar::setMovable().
     void setMovable(bool movable);
+    /// As QTabBar::elideMode().
     Qt::TextElideMode elideMode() const;
+    /// As QTabBar::setElideMode().
     void setElideMode(Qt::TextElideMode mode);
+    /// As QTabBar::iconSize().
     QSize iconSize() const;
+    /// As QTabBar::setIconSize().
     void setIconSize(const QSize &size);
+    /// As QTabBar::usesScrollButtons().
     bool usesScrollButtons() const;
+    /// As QTabBar::setUsesScrollButtons().
     void setUsesScrollButtons(bool useButtons);
 
     /// The page that is shown, null when there is none.

@@ -116,21 +116,20 @@ void NQToolButton::setTopToBottomStyle()
         + fromColorToStr(m_topToBottomPressedBorderColor) + ";}";
     // "pt" stands behind a font text that has its unit already; hosts rely on it, as on the capital
     // of "Pressed".
-    orvane::applyStyleSheet(
-        this,
-        "QToolButton{background:" + fromColorToStr(m_topToBottomNormalColor)
-            + ";border-radius:" + QString::number(m_topToBottomBorderRadius)
-            + "px;font:" + DefineCommonData::getNormalFont()
-            + "pt;}"
-              "QToolButton:hover{background:"
-            + fromColorToStr(m_topToBottomHoverColor)
-            + ";border:" + QString::number(m_topToBottomBorderWidth) + "px solid "
-            + fromColorToStr(m_topToBottomHoverBorderColor)
-            + ";}"
-              "QToolButton:checked"
-            + pressed + "QToolButton:Pressed" + pressed
-            + "QToolButton:disabled{background:" + fromColorToStr(m_topToBottomDisabledColor)
-            + ";}");
+    orvane::applyStyleSheet(this,
+                            "QToolButton{background:" + fromColorToStr(m_topToBottomNormalColor)
+                                + ";border-radius:" + QString::number(m_topToBottomBorderRadius)
+                                + "px;font:" + DefineCommonData::getNormalFont()
+                                + "pt;}"
+                                  "QToolButton:hover{background:"
+                                + fromColorToStr(m_topToBottomHoverColor)
+                                + ";border:" + QString::number(m_topToBottomBorderWidth)
+                                + "px solid " + fromColorToStr(m_topToBottomHoverBorderColor)
+                                + ";}"
+                                  "QToolButton:checked"
+                                + pressed + "QToolButton:Pressed" + pressed
+                                + "QToolButton:disabled{background:"
+                                + fromColorToStr(m_topToBottomDisabledColor) + ";}");
 }
 
 void NQToolButton::setLeftToRightStyle()

@@ -62,12 +62,13 @@ GALLERY_PAGE(CustomMegBox)
         return boxes::makeEmbedded(parent, {"question.png", ask, "Apply", "OK", "Cancel"});
     });
     page.look("Tip", [](QWidget *parent) {
-        CustomMessageBox *box = boxes::makeEmbedded(parent, {"question.png", ask, {}, {}, {}});
+        auto *box = new CustomMessageBox(parent);
         box->setAppltBtnSize(80, 30);
         box->setOkBtnSize(112, 30);
         box->setCancleBtnSize(72, 30);
         boxes::fill(box, {"question.png", ask, "Send", "Send and save", "Cancel"});
         box->setCloseBtnIsVisible(true);
+        boxes::embed(box, parent);
         return box;
     });
 }

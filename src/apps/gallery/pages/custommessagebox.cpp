@@ -4,26 +4,23 @@
 
 #include <custommessagebox.h>
 
-#include <QToolButton>
+#include <QAbstractButton>
+#include <QApplication>
 
 namespace
 {
 
-// Of a box of the size that the form gives it.
-const QRect buttonStrip(112, 144, 278, 48);
-const QRect closeCorner(330, 11, 60, 40);
-
 const boxes::Content question{"question.png", "Send the layout to all screens?", "Apply", "OK",
                               "Cancel"};
 
-QWidget *okButton(QWidget *part)
+/// The button that a part of a box shows: the only one that is not clipped away.
+QWidget *seenButton(QWidget *part)
 {
-    return part->findChild<QWidget *>("frame_ok")->findChild<PushButtonEx *>();
-}
-
-QWidget *closeButton(QWidget *part)
-{
-    return part->findChild<QToolButton *>("toolButton");
+    for (auto *button : part->findChildren<QAbstractButton *>()) {
+        if (part->rect().contains(button->mapTo(part, button->rect().center())))
+            return button;
+    }
+    return nullptr;
 }
 
 /// A room in which the box can be dragged; a closed box comes back.
@@ -44,7 +41,10 @@ template <class Change> auto refilled(Change change)
     return [change](CustomMessageBox *box, bool hidden) {
         boxes::Content content = question;
         change(content, hidden);
+        QWidget *focusWidget = QApplication::focusWidget();
         boxes::fill(box, content);
+        if (focusWidget)
+            focusWidget->setFocus(); // which a filled box has given to its OK button
     };
 }
 
@@ -57,17 +57,15 @@ GALLERY_PAGE(CustomMessageBox)
         "and up to three buttons. It is dragged by any place on it.");
 
     page.setStates({{"Normal", State::Normal},
-                    {"OK: hover", State::Hover, pointers::onCentre, okButton},
-                    {"OK: pressed", State::Pressed, pointers::onCentre, okButton},
+                    {"Hover", State::Hover, pointers::onCentre, seenButton},
+                    {"Pressed", State::Pressed, pointers::onCentre, seenButton},
                     {"Disabled", State::Disabled}},
                    "Buttons");
-    page.look("All three", [](QWidget *parent) { return boxes::makePart(parent, buttonStrip); });
-
-    page.setStates({{"Normal", State::Normal},
-                    {"Hover", State::Hover, pointers::onCentre, closeButton},
-                    {"Pressed", State::Pressed, pointers::onCentre, closeButton}},
-                   "Close button, with the host's pictures");
-    page.look("Close", [](QWidget *parent) { return boxes::makePart(parent, closeCorner); });
+    page.look("OK", [](QWidget *parent) { return boxes::makePart(parent, "frame_ok"); });
+    page.look("Apply", [](QWidget *parent) { return boxes::makePart(parent, "frame_apply"); });
+    page.look("Cancel", [](QWidget *parent) { return boxes::makePart(parent, "frame_cancel"); });
+    page.look("Close, in the host's pictures",
+              [](QWidget *parent) { return boxes::makePart(parent, "toolButton"); });
 
     page.setStates({{"Normal", State::Normal}}, "Texts");
     page.look("One line", [](QWidget *parent) {

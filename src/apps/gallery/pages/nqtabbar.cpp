@@ -1,4 +1,5 @@
 #include "page.h"
+#include "tabsheet.h"
 
 #include <nqtabbar.h>
 
@@ -6,13 +7,14 @@ namespace
 {
 
 NQTabBar *makeBar(QWidget *parent, int width,
-                  const QStringList &texts = {"Screen", "Senders", "Brightness"})
+                  const QStringList &texts = {"Screen", "Senders", "Wall"})
 {
     auto *bar = new NQTabBar(parent);
     bar->setWidgetFixedSize(width, theme::controlHeight);
     for (const QString &text : texts)
         bar->addTab(text);
     bar->setCurrentIndex(0);
+    brightenCloseButtons(bar);
     return bar;
 }
 
@@ -31,21 +33,21 @@ GALLERY_PAGE(NQTabBar)
                     "tabs, and at the right end.");
 
     page.setStates({{"Normal", State::Normal}, {"Disabled", State::Disabled}});
-    page.look("Tabs only", [](QWidget *parent) { return makeBar(parent, 360); });
+    page.look("Tabs only", [](QWidget *parent) { return makeBar(parent, 264); });
     page.look("With widgets", [](QWidget *parent) {
-        NQTabBar *bar = makeBar(parent, 360, {"Screen", "Senders"});
+        NQTabBar *bar = makeBar(parent, 264, {"Wall", "Log"});
         bar->addLeftWidget(makeWidget("Home"));
         bar->addCenterWidget(makeWidget("+"));
         bar->addRightWidget(makeWidget("Help"));
         return bar;
     });
     page.look("Equal widths", [](QWidget *parent) {
-        NQTabBar *bar = makeBar(parent, 360);
+        NQTabBar *bar = makeBar(parent, 264);
         bar->setTabBarType(TabBarRd::TabsOfEqualWidth);
         return bar;
     });
     page.look("Closable", [](QWidget *parent) {
-        NQTabBar *bar = makeBar(parent, 360);
+        NQTabBar *bar = makeBar(parent, 264, {"Screen", "Senders"});
         bar->setTabsClosable(true);
         return bar;
     });

@@ -1,4 +1,5 @@
 #include "page.h"
+#include "tabsheet.h"
 
 #include <nqtabbar.h>
 #include <nqtabwidget.h>
@@ -22,7 +23,7 @@ QWidget *makePage(const QString &text)
 }
 
 NQTabWidget *makeTabs(QWidget *parent, QSize size,
-                      const QStringList &texts = {"Screen", "Senders", "Brightness"})
+                      const QStringList &texts = {"Screen", "Senders", "Wall"})
 {
     auto *tabs = new NQTabWidget(parent);
     tabs->setWidgetSize(size.width(), size.height());
@@ -30,6 +31,7 @@ NQTabWidget *makeTabs(QWidget *parent, QSize size,
     for (const QString &text : texts)
         tabs->addTab(makePage(text), text);
     tabs->setCurrentIndex(0);
+    brightenCloseButtons(tabs->getTabBar());
     return tabs;
 }
 
@@ -40,7 +42,7 @@ GALLERY_PAGE(NQTabWidget)
     page.setPurpose("Pages behind tabs: a tab bar above a stack of pages, kept in step. The last "
                     "tab cannot be closed.");
 
-    constexpr QSize size(360, 120);
+    constexpr QSize size(256, 104);
     page.setStates({{"Normal", State::Normal}, {"Disabled", State::Disabled}});
     page.look("By content", [=](QWidget *parent) { return makeTabs(parent, size); });
     page.look("Equal widths", [=](QWidget *parent) {

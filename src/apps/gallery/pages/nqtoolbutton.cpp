@@ -72,6 +72,7 @@ GALLERY_PAGE(NQToolButton)
     page.look("  left one only", [](QWidget *parent) {
         NQToolButton *button = makePictures(parent);
         button->setLabelRightIsVisible(false);
+        button->setFixedSize(36, 36);
         return button;
     });
 

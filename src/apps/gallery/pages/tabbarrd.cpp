@@ -1,5 +1,5 @@
 #include "page.h"
-#include "pointers.h"
+#include "tabsheet.h"
 
 #include <tabbarrd.h>
 
@@ -7,20 +7,15 @@ namespace
 {
 
 TabBarRd *makeBar(QWidget *parent, TabBarRd::TabBarType type, int width,
-                  const QStringList &texts = {"Screen", "Senders", "Brightness"})
+                  const QStringList &texts = {"Screen", "Senders", "Wall"})
 {
     auto *bar = new TabBarRd(parent);
     bar->setTabBarType(type);
     bar->setFixedSize(width, theme::controlHeight);
+    brightenCloseButtons(bar);
     for (const QString &text : texts)
         bar->addTab(text);
     return bar;
-}
-
-/// The pointer on the second tab.
-QPoint onSecondTab(QWidget *widget)
-{
-    return static_cast<QTabBar *>(widget)->tabRect(1).center();
 }
 
 } // namespace
@@ -30,11 +25,12 @@ GALLERY_PAGE(TabBarRd)
     page.setPurpose("A tab bar whose tabs can share its width equally; the last one also gets the "
                     "pixels that do not divide. The look is Qt's own.");
 
-    page.setStates({{"Normal", State::Normal},
-                    {"Hover", State::Hover, onSecondTab},
-                    {"Disabled", State::Disabled}});
-    page.look("By content",
-              [](QWidget *parent) { return makeBar(parent, TabBarRd::TabsByContent, 228); });
+    page.setStates({{"Normal", State::Normal}, {"Disabled", State::Disabled}});
+    page.look("By content", [](QWidget *parent) {
+        TabBarRd *bar = makeBar(parent, TabBarRd::TabsByContent, 228);
+        bar->setExpanding(false);
+        return bar;
+    });
     page.look("Equal widths",
               [](QWidget *parent) { return makeBar(parent, TabBarRd::TabsOfEqualWidth, 228); });
     page.look("  closable", [](QWidget *parent) {

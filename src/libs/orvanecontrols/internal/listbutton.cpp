@@ -7,7 +7,8 @@ void ListButton::mouseReleaseEvent(QMouseEvent *event)
 {
     // Past QToolButton, whose handler touches the button after clicked(). All it does there is to
     // forget a press on a menu arrow, which this button does not have.
-    QAbstractButton::mouseReleaseEvent(event); // NOLINT(bugprone-parent-virtual-call)
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call)
+    QAbstractButton::mouseReleaseEvent(event); // clazy:exclude=skipped-base-method
 }
 
 QString listButtonSheet(const QString &name)
