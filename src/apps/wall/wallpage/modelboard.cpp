@@ -269,10 +269,10 @@ void ModelBoard::showAvailability()
     for (int i = 0; i < m_buttons.size(); ++i) {
         if (!m_buttons.at(i))
             continue;
-        if (isAnyPort) // enables or disables the button
-            m_buttons.at(i)->setCabinetCount(
-                m_document->project()->leftCount(port, m_modelIds.at(i)));
-        else
+        // Sets whether the button is enabled, too.
+        m_buttons.at(i)->setCabinetCount(
+            isAnyPort ? m_document->project()->leftCount(port, m_modelIds.at(i)) : 0);
+        if (!isAnyPort)
             m_buttons.at(i)->setEnabled(true);
     }
     showPort();
