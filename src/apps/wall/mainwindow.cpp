@@ -33,6 +33,12 @@
 #include <QUndoStack>
 #include <QVBoxLayout>
 
+// The pictures of a static library are there once this is called, from outside every namespace.
+static void registerIcons()
+{
+    Q_INIT_RESOURCE(icons);
+}
+
 namespace wall
 {
 
@@ -92,6 +98,7 @@ MainWindow::MainWindow(RecentProjects *recent, QWidget *parent)
     , m_pages(new NQTabWidget(this))
     , m_view(new LayoutView(m_document, m_selection))
 {
+    registerIcons();
     setWindowIcon(QIcon(logoPath));
     setAcceptDrops(true);
 
