@@ -60,8 +60,8 @@ struct Shown : DemoHost {
     QStringList portTexts() const
     {
         QStringList texts;
-        for (const LabelEx *label : board->findChildren<LabelEx *>(QString(),
-                                                                   Qt::FindDirectChildrenOnly))
+        for (const LabelEx *label :
+             board->findChildren<LabelEx *>(QString(), Qt::FindDirectChildrenOnly))
             texts += label->text();
         return texts;
     }
@@ -260,9 +260,7 @@ private Q_SLOTS:
         QCOMPARE(host.project()->stockCount(mixedPort, "stage-26-column"), 7);
         QCOMPARE(host.enabled(), QString("xxxx."));
 
-        const DialogAnswer more([](QDialog *dialog) {
-            buttonNamed(dialog, "Add")->click();
-        });
+        const DialogAnswer more([](QDialog *dialog) { buttonNamed(dialog, "Add")->click(); });
         host.board->addStock();
         QCOMPARE(host.project()->stockCount(mixedPort, "stage-26"), 16);
         host.document.undoStack()->undo();

@@ -61,10 +61,7 @@ struct Shown : DemoHost {
         QCoreApplication::processEvents(); // it is shown together with all else that happened
     }
 
-    void key(int key) const
-    {
-        QTest::keyClick(panel->windowHandle(), static_cast<Qt::Key>(key));
-    }
+    void key(int key) const { QTest::keyClick(panel->windowHandle(), static_cast<Qt::Key>(key)); }
 
     void type(const QString &text) const
     {
@@ -136,8 +133,7 @@ private Q_SLOTS:
         QVERIFY(buttonNamed(host.panel.get(), "Align left")->isEnabled());
 
         host.select({host.ids.at(0), host.project()->line({"s3", 1}).at(0)});
-        QCOMPARE(host.texts().mid(0, 4),
-                 QStringList({"Various", "Various", "Various", "Various"}));
+        QCOMPARE(host.texts().mid(0, 4), QStringList({"Various", "Various", "Various", "Various"}));
         host.select({host.ids.at(1)});
         QCOMPARE(host.field("X")->text(), QString("192"));
     }
@@ -412,11 +408,9 @@ private Q_SLOTS:
     {
         Shown host;
         // 403 cabinets: 240 panels, 20 halves, 48 columns, 15 banners and 80 cubes.
-        QCOMPARE(host.texts().mid(4),
-                 QStringList({"403", "11,902,976", "2,918.1 kg", "52.58 kW"}));
+        QCOMPARE(host.texts().mid(4), QStringList({"403", "11,902,976", "2,918.1 kg", "52.58 kW"}));
         host.document.push(new RemoveCabinetsCommand(host.project(), {host.ids.at(0)}));
-        QCOMPARE(host.texts().mid(4),
-                 QStringList({"402", "11,866,112", "2,910.7 kg", "52.44 kW"}));
+        QCOMPARE(host.texts().mid(4), QStringList({"402", "11,866,112", "2,910.7 kg", "52.44 kW"}));
         host.document.undoStack()->undo();
         CabinetModel model = *host.project()->model("banner-52");
         model.weight += 10;

@@ -27,8 +27,7 @@ FormDialog::FormDialog(const QString &title, const QString &acceptText, QWidget 
     auto *accept = parts::makeButton(acceptText, ActivatedBtn, buttonWidth, this);
     accept->setDefault(true);
     connect(accept, &PushButtonEx::clicked, this, &QDialog::accept);
-    auto *cancel =
-        parts::makeButton(QStringLiteral("Cancel"), NoActivatedBtn, buttonWidth, this);
+    auto *cancel = parts::makeButton(QStringLiteral("Cancel"), NoActivatedBtn, buttonWidth, this);
     cancel->setAutoDefault(false);
     connect(cancel, &PushButtonEx::clicked, this, &QDialog::reject);
 

@@ -269,10 +269,10 @@ void ModelBoard::showAvailability()
     for (int i = 0; i < m_buttons.size(); ++i) {
         if (!m_buttons.at(i))
             continue;
-        if (isAnyPort) // enables or disables the button
-            m_buttons.at(i)->setCabinetCount(
-                m_document->project()->leftCount(port, m_modelIds.at(i)));
-        else
+        // Sets whether the button is enabled, too.
+        m_buttons.at(i)->setCabinetCount(
+            isAnyPort ? m_document->project()->leftCount(port, m_modelIds.at(i)) : 0);
+        if (!isAnyPort)
             m_buttons.at(i)->setEnabled(true);
     }
     showPort();
@@ -309,8 +309,7 @@ void ModelBoard::requestModel(const QString &modelId)
         Q_EMIT placeRequested(port, modelId);
     } else {
         CustomMegBox::informationMessageBox(
-            window(), title,
-            QStringLiteral("No %1 is left on %2.").arg(model->name, portText()),
+            window(), title, QStringLiteral("No %1 is left on %2.").arg(model->name, portText()),
             QStringLiteral("OK"));
     }
 }

@@ -281,9 +281,8 @@ void PropertyPanel::showTexts(const CabinetIds &ids)
                            : otherwise);
     if (ids.size() == 1 && port) {
         const CabinetIds line = project->line(*port);
-        m_place->setText(QStringLiteral("%1 of %2")
-                             .arg(line.indexOf(ids.constFirst()) + 1)
-                             .arg(line.size()));
+        m_place->setText(
+            QStringLiteral("%1 of %2").arg(line.indexOf(ids.constFirst()) + 1).arg(line.size()));
     } else {
         m_place->setText(otherwise);
     }

@@ -55,8 +55,8 @@ Sender SenderDialog::sender() const
         for (int number = minPortNumber; number <= m_portCount->value(); ++number) {
             Port port;
             port.number = number;
-            port.kind = m_portKind->currentIndex() == coaxialIndex ? PortKind::Coaxial
-                                                                    : PortKind::Network;
+            port.kind =
+                m_portKind->currentIndex() == coaxialIndex ? PortKind::Coaxial : PortKind::Network;
             sender.ports.append(port);
         }
     }

@@ -141,8 +141,8 @@ void SenderEntry::showSender()
     const Sender *sender = m_project->sender(m_senderId);
     if (!sender)
         return;
-    const QString shownName = m_item->fontMetrics().elidedText(sender->name, Qt::ElideRight,
-                                                               nameWidth);
+    const QString shownName =
+        m_item->fontMetrics().elidedText(sender->name, Qt::ElideRight, nameWidth);
     m_item->setDeviceName(shownName);
     m_item->setToolTip(shownName == sender->name ? QString() : sender->name);
     m_item->setBOnline(sender->isOnline);
@@ -330,8 +330,8 @@ void SenderEntry::finishRow(RowLineItem *row)
 
 void SenderEntry::nameCabinet(ToolButtonEx *button, int left)
 {
-    const QString name = QStringLiteral("%1, %2 left").arg(button->getCabnetInfo().extraText1)
-                             .arg(left);
+    const QString name =
+        QStringLiteral("%1, %2 left").arg(button->getCabnetInfo().extraText1).arg(left);
     button->setAccessibleName(name);
     button->setToolTip(name);
 }

@@ -125,9 +125,9 @@ void SenderPanel::deleteSender(const QString &senderId)
     if (placed > 0)
         question += QStringLiteral("\nIts %1 cabinets on the wall go with it.").arg(placed);
     constexpr int ok = 1;
-    const int answer = CustomMegBox::questionMessageBox(
-        window(), QStringLiteral("Delete sender"), question, QStringLiteral("Delete"),
-        QStringLiteral("Cancel"));
+    const int answer =
+        CustomMegBox::questionMessageBox(window(), QStringLiteral("Delete sender"), question,
+                                         QStringLiteral("Delete"), QStringLiteral("Cancel"));
     if (answer == ok && project->sender(senderId))
         m_document->push(new RemoveSenderCommand(m_document->project(), senderId));
 }
@@ -316,10 +316,9 @@ void SenderPanel::followEntry(SenderEntry *entry)
             [this, senderId] { changeSender(senderId); });
     connect(item, &DrawerItem::signal_deleteItem, this,
             [this, senderId] { deleteSender(senderId); });
-    connect(item, &DrawerItem::signal_checkAllItemContent, this,
-            [this, senderId](DrawerItem *, bool isCheckAll) {
-                selectCabinets(senderId, isCheckAll);
-            });
+    connect(
+        item, &DrawerItem::signal_checkAllItemContent, this,
+        [this, senderId](DrawerItem *, bool isCheckAll) { selectCabinets(senderId, isCheckAll); });
     connect(item, &DrawerItem::signal_checkAllHasClicked, this,
             [this, senderId] { setCurrentSender(senderId); });
 }

@@ -57,6 +57,7 @@ WallPage::WallPage(Document *document, Selection *selection, QWidget *view, QWid
     , m_propertyPanel(new PropertyPanel(document, selection, this))
     , m_view(view)
 {
+    setAutoFillBackground(true); // whatever it lies on
     connect(m_senderPanel, &SenderPanel::placeRequested, this, &WallPage::placeRequested);
     connect(m_modelBoard, &ModelBoard::placeRequested, this, &WallPage::placeRequested);
     connect(m_modelBoard, &ModelBoard::placeRowRequested, this, &WallPage::placeRowRequested);
