@@ -74,6 +74,19 @@ private Q_SLOTS:
         QCOMPARE(pointer::colorAt(label, QPoint(20, 20)), QColor(0, 0, 255));
     }
 
+    void childMadeReadyAfterTheSecondSheetIsPaintedWithIt()
+    {
+        QWidget container;
+        const QString sheet = QStringLiteral("QLabel{background:%1;}");
+        orvane::applyStyleSheet(&container, sheet.arg("#ff0000"));
+        orvane::applyStyleSheet(&container, sheet.arg("#00ff00"));
+        auto *label = new QLabel(&container);
+        label->setFixedSize(40, 40);
+        label->ensurePolished();
+        QVERIFY(pointer::showAndWait(&container));
+        QCOMPARE(pointer::colorAt(label, QPoint(20, 20)), QColor(0, 255, 0));
+    }
+
     // Lists and tab bars place their items before they are shown, and would keep to the first
     // sheet.
     void sheetReplacedBeforeTheFirstShowIsLaidOut_data()

@@ -5,6 +5,7 @@
 #include <toolbuttonex.h>
 
 #include <cstring>
+#include <functional>
 #include <limits>
 
 namespace
@@ -239,6 +240,8 @@ const QColor ground(69, 69, 69);
 
 Q_DECLARE_METATYPE(ButtonType)
 
+Q_DECLARE_METATYPE(std::function<void(ToolButtonEx &)>)
+
 class TestToolButtonExCabinet : public TestCase
 {
     Q_OBJECT
@@ -368,6 +371,46 @@ private Q_SLOTS:
             other.setCabinetSize(192, 108);
             QCOMPARE(other.toolTip(), QStringLiteral("own"));
         }
+    }
+
+    void shownCabinetIsPaintedAnew_data()
+    {
+        using Change = std::function<void(ToolButtonEx &)>;
+        QTest::addColumn<Change>("change");
+        QTest::newRow("count") << Change([](ToolButtonEx &b) { b.setCabinetCount(4); });
+        QTest::newRow("width") << Change([](ToolButtonEx &b) { b.setCabinetWidth(64); });
+        QTest::newRow("height") << Change([](ToolButtonEx &b) { b.setCabinetHeight(64); });
+        QTest::newRow("size") << Change([](ToolButtonEx &b) { b.setCabinetSize(64, 192); });
+        QTest::newRow("no count") << Change(
+            [](ToolButtonEx &b) { b.setIsDrawCabinetCount(false); });
+        QTest::newRow("record") << Change([](ToolButtonEx &b) {
+            StructCabinet record = filledRecord();
+            record.cabinetCount = 4;
+            b.setCabnetInfo(record);
+        });
+    }
+
+    void shownCabinetIsPaintedAnew()
+    {
+        QFETCH(std::function<void(ToolButtonEx &)>, change);
+        ToolButtonEx button(nullptr, CabinetType, QString(), QString());
+        button.setFixedSize(69, 69);
+        button.setCabinetSize(128, 128);
+        button.setIsDrawCabinetCount(true);
+        button.setCabinetCount(3);
+        QVERIFY(pointer::showAndWait(&button));
+        struct PaintCounter : QObject {
+            int count = 0;
+            bool eventFilter(QObject *, QEvent *event) override
+            {
+                count += event->type() == QEvent::Paint;
+                return false;
+            }
+        } paints;
+        QCoreApplication::processEvents();
+        button.installEventFilter(&paints);
+        change(button);
+        QTRY_VERIFY(paints.count > 0);
     }
 
     void countEnablesTheButton_data()

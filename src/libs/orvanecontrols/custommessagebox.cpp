@@ -61,6 +61,7 @@ CustomMessageBox::CustomMessageBox(QWidget *parent)
     m_ui->formLayout->setLabelAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     m_ui->formLayout->setFormAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     orvane::applyStyleSheet(this, QStringLiteral("color:rgb(210,210,210);font:SimSun Arial;"));
+    m_ui->labelTips->ensurePolished(); // so that texts are measured with the font they are shown in
     orvane::applyStyleSheet(
         m_ui->toolButton,
         QStringLiteral("QToolButton{border-image:"
@@ -83,7 +84,6 @@ void CustomMessageBox::setBoxInformation(QString title, QString text, QPixmap ic
     QLabel *tips = m_ui->labelTips;
     m_ui->labelTitle->setText("  " + title + "  ");
     tips->setText(text);
-    tips->ensurePolished(); // with the font that the text is shown in
     const QFontMetrics metrics(tips->font());
     // Until the first show no layout has moved the label: it stands at 0 with the form's width,
     // which is its width in a box of the form's size too.

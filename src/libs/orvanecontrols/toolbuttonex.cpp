@@ -743,6 +743,7 @@ int ToolButtonEx::getNoActivatedLeftPadding() const
 void ToolButtonEx::setCabinetWidth(int width)
 {
     m_cabinetWidth = qBound(leastCabinetSide, width, greatestCabinetSide);
+    update();
 }
 
 int ToolButtonEx::cabinetWidth() const
@@ -753,6 +754,7 @@ int ToolButtonEx::cabinetWidth() const
 void ToolButtonEx::setCabinetHeight(int height)
 {
     m_cabinetHeight = qBound(leastCabinetSide, height, greatestCabinetSide);
+    update();
 }
 
 int ToolButtonEx::cabinetHeight() const
@@ -773,6 +775,7 @@ void ToolButtonEx::setCabinetCount(int count)
     if (count >= 0)
         m_cabinetCount = count;
     setEnabled(m_cabinetCount > 0);
+    update();
 }
 
 int ToolButtonEx::cabinetCount() const
@@ -793,6 +796,7 @@ int ToolButtonEx::getCabinetInitCount() const
 void ToolButtonEx::setIsDrawCabinetCount(bool isDraw)
 {
     m_isDrawCabinetCount = isDraw;
+    update();
 }
 
 bool ToolButtonEx::isDrawCabinetCount() const
@@ -905,6 +909,7 @@ void ToolButtonEx::setCabnetInfo(const StructCabinet &info)
     m_cabinetInfo = info;
     if (info.cabinetCount >= 0)
         m_cabinetCount = info.cabinetCount;
+    update();
 }
 
 StructCabinet ToolButtonEx::getCabnetInfo() const

@@ -31,9 +31,6 @@ void restyleEarlyOnes(QWidget *widget)
     early.erase(std::remove_if(early.begin(), early.end(),
                                [](const QWidget *w) { return !isStyledEarly(w); }),
                 early.end());
-    if (early.isEmpty())
-        return;
-    widget->style()->polish(widget); // makes Qt read the new sheet
     QEvent change(QEvent::StyleChange);
     for (QWidget *each : qAsConst(early)) {
         each->style()->polish(each);
@@ -60,15 +57,18 @@ void applyStyleSheet(QWidget *widget, const QString &sheet)
     if (widget->styleSheet() == sheet)
         return;
     const bool hadSheet = widget->style()->inherits("QStyleSheetStyle"); // its own or a parent's
+    const bool isLate = hadSheet && !widget->testAttribute(Qt::WA_WState_Polished);
     widget->setStyleSheet(sheet);
 
+    // Qt reads a later sheet, and gives it to the children, only if the widget was made ready for
+    // showing: until then it would go on with the one that it has read, and a child that was made
+    // ready meanwhile would keep to that one.
+    if (isLate)
+        widget->style()->unpolish(widget); // forgets what was read
     // Qt keeps parsed sheets by widget address, and forgets one before the first show, or when the
     // widget dies, only if that widget has asked the style something itself. So the widget asks.
     widget->style()->styleHint(QStyle::SH_EtchDisabledText, nullptr, widget);
-
-    // Qt gives the children a first sheet at once, but a later one only if the widget itself is
-    // polished; what went by the earlier sheet before would keep to it.
-    if (hadSheet && !widget->testAttribute(Qt::WA_WState_Polished))
+    if (isLate)
         restyleEarlyOnes(widget);
 }
 
