@@ -3,6 +3,7 @@
 #include <QAbstractScrollArea>
 #include <QApplication>
 #include <QFontDatabase>
+#include <QLabel>
 #include <QPainter>
 #include <QPalette>
 #include <QScrollBar>
@@ -87,6 +88,39 @@ QFont codeFont()
     }
     font.setPointSizeF(QApplication::font().pointSizeF() - 0.5);
     return font;
+}
+
+QLabel *makeHeading(const QString &text, QWidget *parent)
+{
+    auto *label = new QLabel(text, parent);
+    label->setFont(headingFont());
+    return label;
+}
+
+QLabel *makeQuietLabel(const QString &text, QWidget *parent)
+{
+    auto *label = new QLabel(text, parent);
+    setTextColor(label, quietText);
+    return label;
+}
+
+void setTextColor(QLabel *label, const QColor &color)
+{
+    QPalette palette = label->palette();
+    palette.setColor(QPalette::WindowText, color);
+    label->setPalette(palette);
+}
+
+PushButtonEx *makeButton(const QString &text, BtnType type, QWidget *parent, int leastWidth)
+{
+    auto *button = new PushButtonEx(parent, type);
+    button->ensurePolished(); // the sheet brings the font
+    QString shown = text;
+    const int textWidth = button->fontMetrics().horizontalAdvance(shown.remove('&'));
+    // Before the text, which the button cuts to its width.
+    button->setFixedSize(qMax(leastWidth, textWidth + 6 * unit), controlHeight);
+    button->setText(text);
+    return button;
 }
 
 void drawFrame(QPainter &painter, const QRectF &rect, const QColor &color, qreal width)

@@ -1,16 +1,17 @@
 #ifndef THEME_H
 #define THEME_H
 
+#include <pushbuttonex.h>
+
 #include <QColor>
 #include <QFont>
 
-class QApplication;
+class QAbstractScrollArea;
+class QLabel;
 class QPainter;
 class QRectF;
-class QScrollArea;
-class QAbstractScrollArea;
 
-/// The dark host look of the gallery: one palette, one control height, one rhythm of 4 pixels.
+/// The dark look of the programs: one palette, one control height, one rhythm of 4 pixels.
 ///
 /// It is made of a QPalette and painting, never of a style sheet, so that nothing cascades into the
 /// widgets that are shown.
@@ -42,6 +43,15 @@ void styleScrollBars(QAbstractScrollArea *area);
 QFont headingFont(qreal pointsMore = 0);
 /// A face whose letters are equally wide.
 QFont codeFont();
+
+/// A heading, told from other texts by its weight.
+QLabel *makeHeading(const QString &text, QWidget *parent);
+/// A text that stands back.
+QLabel *makeQuietLabel(const QString &text, QWidget *parent);
+/// Gives the texts of \a label another colour.
+void setTextColor(QLabel *label, const QColor &color);
+/// A button that is as wide as its text needs, and at least \a leastWidth.
+PushButtonEx *makeButton(const QString &text, BtnType type, QWidget *parent, int leastWidth = 0);
 
 /// Draws a rounded border of \a width pixels inside \a rect.
 void drawFrame(QPainter &painter, const QRectF &rect, const QColor &color, qreal width = 1);

@@ -163,17 +163,6 @@ void ChoiceBox::wheelEvent(QWheelEvent *event)
         event->ignore();
 }
 
-PushButtonEx *makeButton(const QString &text, BtnType type, QWidget *parent)
-{
-    auto *button = new PushButtonEx(parent, type);
-    button->ensurePolished();
-    QString shown = text;
-    const int textWidth = button->fontMetrics().horizontalAdvance(shown.remove('&'));
-    button->setFixedSize(textWidth + 6 * theme::unit, theme::controlHeight);
-    button->setText(text);
-    return button;
-}
-
 QString eventText(bool value)
 {
     return value ? QStringLiteral("true") : QStringLiteral("false");

@@ -1,6 +1,8 @@
 #ifndef GALLERY_CONTROLS_H
 #define GALLERY_CONTROLS_H
 
+#include "theme.h"
+
 #include <checkboxex.h>
 #include <comboboxex.h>
 #include <lineeditex.h>
@@ -98,9 +100,7 @@ protected:
     void wheelEvent(QWheelEvent *event) override;
 };
 
-/// A button of the gallery: the accented look for the one main action of a group, else the grey
-/// one. Its text is never elided.
-PushButtonEx *makeButton(const QString &text, BtnType type, QWidget *parent);
+using theme::makeButton;
 
 /// A signal's argument as the list of events shows it. A page whose signals carry other types
 /// declares its own in the global namespace.

@@ -1,6 +1,6 @@
 #include "customlistwidgetitem.h"
 
-#include "internal/listbutton.h"
+#include "internal/imagebutton.h"
 #include "internal/stylesheet.h"
 
 #include <QHBoxLayout>
@@ -12,7 +12,7 @@
 CustomListWidgetItem::CustomListWidgetItem(QWidget *parent)
     : QWidget(parent)
     , m_textLabel(new QLabel(this))
-    , m_deleteButton(new orvane::ListButton(this))
+    , m_deleteButton(new orvane::ImageButton(this))
     , m_iconButton(new QToolButton(this))
     , m_layout(new QHBoxLayout(this))
 {
@@ -20,7 +20,7 @@ CustomListWidgetItem::CustomListWidgetItem(QWidget *parent)
 
     m_deleteButton->setMinimumWidth(15);
     m_deleteButton->setMaximumWidth(17);
-    orvane::applyStyleSheet(m_deleteButton, orvane::listButtonSheet("trash"));
+    orvane::applyStyleSheet(m_deleteButton, orvane::imageButtonSheet("listwidget/trash"));
     m_deleteButton->hide();
 
     m_iconButton->setFixedSize(20, 20);

@@ -1,6 +1,6 @@
 #include "listwidgettitle.h"
 
-#include "internal/listbutton.h"
+#include "internal/imagebutton.h"
 #include "internal/stylesheet.h"
 
 #include <QHBoxLayout>
@@ -13,7 +13,7 @@ namespace
 QString buttonSheet(const QString &name)
 {
     return "QToolButton{background-color:rgb(225, 225, 225); border:none;}"
-        + orvane::listButtonSheet(name);
+        + orvane::imageButtonSheet("listwidget/" + name);
 }
 
 } // namespace
@@ -21,9 +21,9 @@ QString buttonSheet(const QString &name)
 ListWidgetTitle::ListWidgetTitle(QString title, QWidget *parent)
     : QWidget(parent)
     , m_titleLabel(new QLabel(title, this))
-    , m_settingsButton(new orvane::ListButton(this))
-    , m_refreshButton(new orvane::ListButton(this))
-    , m_dropDownButton(new orvane::ListButton(this))
+    , m_settingsButton(new orvane::ImageButton(this))
+    , m_refreshButton(new orvane::ImageButton(this))
+    , m_dropDownButton(new orvane::ImageButton(this))
 {
     initLayout();
     connect(m_dropDownButton, &QToolButton::clicked, this, &ListWidgetTitle::slot_HideClicked);

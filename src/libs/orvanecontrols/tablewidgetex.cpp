@@ -1,5 +1,6 @@
 #include "tablewidgetex.h"
 
+#include "internal/imagebutton.h"
 #include "internal/stylesheet.h"
 #include "scrollbarex.h"
 
@@ -17,19 +18,6 @@ constexpr int closeButtonRoom = 20;
 constexpr int scrollThickness = 12;
 constexpr int scrollHandle = 6;
 constexpr int scrollRadius = 3;
-
-/// The button that asks for a new table.
-class AddButton : public QToolButton
-{
-protected:
-    void mouseReleaseEvent(QMouseEvent *event) override
-    {
-        // Past QToolButton, whose handler touches the button after clicked(), in which a host may
-        // have deleted it with the tab widget.
-        // NOLINTNEXTLINE(bugprone-parent-virtual-call)
-        QAbstractButton::mouseReleaseEvent(event);
-    }
-};
 
 QVBoxLayout *makePlainLayout(QWidget *widget)
 {
@@ -115,17 +103,11 @@ void TableWidgetEx::setIsLoadCornerWidget(bool isLoad)
     setTabsClosable(true);
 
     if (!m_addButton) {
-        m_addButton = new AddButton;
+        m_addButton = new orvane::ImageButton;
         m_addButton->setFixedSize(addButtonSize, addButtonSize);
         connect(m_addButton, &QToolButton::clicked, this, &TableWidgetEx::on_addTable);
-        orvane::applyStyleSheet(
-            m_addButton,
-            QStringLiteral("QToolButton{border-image: "
-                           "url(:/Resource/Images/globalResource/tabwidget/add_normal.png);}"
-                           "QToolButton:hover{border-image: "
-                           "url(:/Resource/Images/globalResource/tabwidget/add_hover.png);}"
-                           "QToolButton:pressed{border-image: "
-                           "url(:/Resource/Images/globalResource/tabwidget/add_pressed.png);}"));
+        orvane::applyStyleSheet(m_addButton,
+                                orvane::imageButtonSheet(QStringLiteral("tabwidget/add")));
     }
     setCornerWidget(m_addButton, Qt::TopRightCorner);
     m_addButton->show(); // by itself it comes only with a tab widget that is not shown yet

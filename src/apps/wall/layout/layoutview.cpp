@@ -8,7 +8,7 @@
 #include "model/commands.h"
 #include "selection.h"
 
-#include <scrollbarex.h>
+#include <theme.h>
 
 #include <QApplication>
 #include <QDragEnterEvent>
@@ -42,36 +42,12 @@ constexpr double wheelNotch = 120.0;
 constexpr int mostScrollStep = 40; ///< Of a pointer that is dragged outside.
 constexpr double leastLevelZoom = 0.01; ///< Of level 0; a slider need not go farther.
 
-const QColor scrollGround(56, 56, 56);
-
 /// The drag's bytes are those of a record that is still alive: copying it shares its texts.
 StructCabinet recordIn(const QByteArray &bytes)
 {
     alignas(StructCabinet) char image[sizeof(StructCabinet)];
     std::memcpy(image, bytes.constData(), sizeof image);
     return *reinterpret_cast<const StructCabinet *>(image);
-}
-
-void styleScrollBar(QScrollBar *bar)
-{
-    constexpr int width = 12;
-    constexpr int handleWidth = 8;
-    ScrollBarEx look(bar, false);
-    look.setScrollWidth(width);
-    look.setScrollHeight(width);
-    look.setScrollBarWidth(handleWidth);
-    look.setScrollBarHeight(handleWidth);
-    look.setScrollBarMargin(3);
-    look.setBorderRadius(3);
-    look.setIconWidth(0);
-    look.setIconHeight(0);
-    look.setScrollColor(scrollGround);
-    look.setScrollHandleColor(QColor(80, 80, 80));
-    look.setScrollHandlePressedColor(QColor(99, 99, 99));
-    if (bar->orientation() == Qt::Vertical)
-        look.setVerticalStyle();
-    else
-        look.setHorizontalStyle();
 }
 
 QPoint arrowDirection(int key)
@@ -123,10 +99,9 @@ LayoutView::LayoutView(Document *document, Selection *selection, QWidget *parent
     setAlignment(Qt::AlignLeft | Qt::AlignTop);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
-    styleScrollBar(horizontalScrollBar());
-    styleScrollBar(verticalScrollBar());
+    theme::styleScrollBars(this);
     auto *corner = new QWidget;
-    corner->setPalette(QPalette(scrollGround));
+    corner->setPalette(QPalette(theme::ground));
     corner->setAutoFillBackground(true);
     setCornerWidget(corner);
     // Only what changed is painted, and the layers restore the painter themselves.

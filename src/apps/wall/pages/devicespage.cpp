@@ -156,7 +156,7 @@ QWidget *DevicesPage::makeDevices()
     connect(m_queryButton, &QPushButton::clicked, this, &DevicesPage::startQuery);
     connect(m_cancelButton, &QPushButton::clicked, m_query, &DeviceQuery::cancel);
     connect(m_useButton, &QPushButton::clicked, this, &DevicesPage::useResult);
-    m_queryState = look::makeQuietLabel(QString(), column);
+    m_queryState = look::makeWrappedLabel(QString(), column);
 
     auto *buttons = new QHBoxLayout;
     buttons->setSpacing(look::gap);
@@ -215,7 +215,7 @@ QWidget *DevicesPage::makeTables()
     connect(m_tables, &TableWidgetEx::signals_removeTable, this, &DevicesPage::closeTable);
     connect(m_tables, &QTabWidget::currentChanged, this, &DevicesPage::updateTableButtons);
 
-    QLabel *hint = look::makeQuietLabel(
+    QLabel *hint = look::makeWrappedLabel(
         tr("No table is open. Double-click a device, or open the tables of all."), column);
     hint->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     m_tablesStack = new QStackedWidget(column);
@@ -224,7 +224,7 @@ QWidget *DevicesPage::makeTables()
 
     m_openAllButton = look::makeButton(tr("Open all tables"), NoActivatedBtn, column);
     m_testButton = look::makeButton(tr("Test checked ports"), NoActivatedBtn, column);
-    m_testState = look::makeQuietLabel(QString(), column);
+    m_testState = look::makeWrappedLabel(QString(), column);
     connect(m_openAllButton, &QPushButton::clicked, this, [this] {
         const QStringList senderIds = m_project->senderIds();
         for (const QString &senderId : senderIds)

@@ -56,7 +56,7 @@ ModelFields::ModelFields(Document *document, QWidget *parent)
     , m_weight(addNumber(tr("Weight"), tr("kg"), 2, 10 * maxWeight, &CabinetModel::weight))
     , m_power(addNumber(tr("Power"), tr("W"), 1, 10 * maxPower, &CabinetModel::power))
     , m_voltage(addNumber(tr("Voltage"), tr("V"), 1, 10 * maxVoltage, &CabinetModel::voltage))
-    , m_problem(look::makeQuietLabel(QString(), this))
+    , m_problem(look::makeWrappedLabel(QString(), this))
 {
     m_layout->setContentsMargins(0, 0, 0, 0);
     m_layout->setHorizontalSpacing(look::gap);

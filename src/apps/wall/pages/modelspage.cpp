@@ -158,7 +158,7 @@ QWidget *ModelsPage::makeTotals()
     layout->addWidget(look::makeHeading(tr("Totals"), panel), 0, 0);
     const QStringList names = {tr("Cabinets"), tr("Pixels"), tr("Weight"), tr("Power")};
     for (int i = 0; i < names.size(); ++i) {
-        QLabel *label = look::makeQuietLabel(names.at(i), panel);
+        QLabel *label = look::makeWrappedLabel(names.at(i), panel);
         label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         layout->addWidget(label, 0, i + 1);
         layout->setColumnStretch(i + 1, 1);

@@ -99,7 +99,7 @@ QWidget *StartPage::makeCommands()
 
     layout->addSpacing(look::gap);
     layout->addWidget(
-        look::makeQuietLabel(tr("Or drop a project file anywhere on this page."), commands));
+        look::makeWrappedLabel(tr("Or drop a project file anywhere on this page."), commands));
     layout->addStretch(1);
     return commands;
 }
@@ -124,7 +124,7 @@ QWidget *StartPage::makeRecent()
             });
 
     m_hint =
-        look::makeQuietLabel(tr("No recent projects. What you open or save comes here."), recent);
+        look::makeWrappedLabel(tr("No recent projects. What you open or save comes here."), recent);
     m_hint->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     m_stack = new QStackedWidget(recent);
     m_stack->addWidget(m_list);

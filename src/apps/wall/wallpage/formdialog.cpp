@@ -24,10 +24,10 @@ FormDialog::FormDialog(const QString &title, const QString &acceptText, QWidget 
 {
     setWindowTitle(title);
 
-    auto *accept = parts::makeButton(acceptText, ActivatedBtn, buttonWidth, this);
+    auto *accept = theme::makeButton(acceptText, ActivatedBtn, this, buttonWidth);
     accept->setDefault(true);
     connect(accept, &PushButtonEx::clicked, this, &QDialog::accept);
-    auto *cancel = parts::makeButton(QStringLiteral("Cancel"), NoActivatedBtn, buttonWidth, this);
+    auto *cancel = theme::makeButton(QStringLiteral("Cancel"), NoActivatedBtn, this, buttonWidth);
     cancel->setAutoDefault(false);
     connect(cancel, &PushButtonEx::clicked, this, &QDialog::reject);
 
@@ -48,7 +48,7 @@ FormDialog::FormDialog(const QString &title, const QString &acceptText, QWidget 
 void FormDialog::addRow(const QString &caption, QWidget *field)
 {
     const int row = m_rows->rowCount();
-    QLabel *label = parts::makeCaption(caption, this);
+    QLabel *label = theme::makeQuietLabel(caption, this);
     label->setBuddy(field);
     field->setFixedSize(fieldWidth, theme::controlHeight);
     field->setAccessibleName(caption);

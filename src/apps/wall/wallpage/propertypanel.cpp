@@ -59,7 +59,7 @@ QString sizeText(QSize size)
 LabelEx *addText(QGridLayout *grid, const QString &caption)
 {
     QWidget *parent = grid->parentWidget();
-    QLabel *label = parts::makeCaption(caption, parent);
+    QLabel *label = theme::makeQuietLabel(caption, parent);
     label->setFixedWidth(captionWidth);
     LabelEx *value = parts::makeValue(valueWidth, parent);
     const int row = grid->rowCount();
@@ -75,7 +75,7 @@ NumberField *addNumber(QGridLayout *grid, const QString &caption, int least, int
     field->setRange(least, greatest);
     field->setFixedWidth(valueWidth);
     field->setAccessibleName(caption);
-    QLabel *label = parts::makeCaption(caption, parent);
+    QLabel *label = theme::makeQuietLabel(caption, parent);
     label->setBuddy(field);
     const int row = grid->rowCount();
     grid->addWidget(label, row, 0);
@@ -134,13 +134,13 @@ void PropertyPanel::build()
     column->setContentsMargins(theme::margin, theme::margin, theme::margin, theme::margin);
     column->setSpacing(theme::margin);
 
-    m_heading = parts::makeHeading(QString(), content);
+    m_heading = theme::makeHeading(QString(), content);
     m_heading->setFixedHeight(theme::controlHeight); // as high as the heads of the other panels
     column->addWidget(m_heading);
     addProperties(content);
     addCommands(content);
     column->addStretch();
-    column->addWidget(parts::makeHeading(QStringLiteral("Whole wall"), content));
+    column->addWidget(theme::makeHeading(QStringLiteral("Whole wall"), content));
     addTotals(content);
 
     auto *frame = new QVBoxLayout(this);
@@ -168,7 +168,7 @@ void PropertyPanel::addCommands(QWidget *content)
 {
     QGridLayout *grid = makeGrid(content, theme::gap);
     const auto add = [this, grid, content](const QString &text, auto action) {
-        PushButtonEx *button = parts::makeButton(text, NoActivatedBtn, commandWidth, content);
+        PushButtonEx *button = theme::makeButton(text, NoActivatedBtn, content, commandWidth);
         connect(button, &PushButtonEx::clicked, this, action);
         grid->addWidget(button, grid->count() / columns, grid->count() % columns);
         return button;

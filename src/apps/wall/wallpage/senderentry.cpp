@@ -252,7 +252,7 @@ void SenderEntry::buildBody()
     m_isOnline = sender->isOnline;
     QWidget *body = nullptr;
     if (sender->ports.isEmpty()) {
-        body = parts::makeCaption(QStringLiteral("This sender has no ports."), nullptr);
+        body = theme::makeQuietLabel(QStringLiteral("This sender has no ports."), nullptr);
         body->resize(bodyWidth, theme::controlHeight);
     } else {
         body = sender->isOnline ? createRows(*sender) : createGrid(*sender);

@@ -173,10 +173,10 @@ void SenderPanel::keyPressEvent(QKeyEvent *event)
 
 void SenderPanel::build()
 {
-    QLabel *heading = parts::makeHeading(QStringLiteral("Senders"), this);
-    m_count = parts::makeCaption(QString(), this);
+    QLabel *heading = theme::makeHeading(QStringLiteral("Senders"), this);
+    m_count = theme::makeQuietLabel(QString(), this);
     m_editButton =
-        parts::makeButton(QStringLiteral("Select"), NoActivatedBtn, smallButtonWidth, this);
+        theme::makeButton(QStringLiteral("Select"), NoActivatedBtn, this, smallButtonWidth);
     m_editButton->setToolTip(QStringLiteral("Select the cabinets of whole senders"));
     connect(m_editButton, &PushButtonEx::clicked, this, [this] { setEditing(!m_isEditing); });
 
@@ -198,10 +198,10 @@ void SenderPanel::build()
     });
 
     PushButtonEx *addButton =
-        parts::makeButton(QStringLiteral("Add sender"), NoActivatedBtn, buttonWidth, this);
+        theme::makeButton(QStringLiteral("Add sender"), NoActivatedBtn, this, buttonWidth);
     connect(addButton, &PushButtonEx::clicked, this, &SenderPanel::addSender);
     m_settingsButton =
-        parts::makeButton(QStringLiteral("Settings"), NoActivatedBtn, buttonWidth, this);
+        theme::makeButton(QStringLiteral("Settings"), NoActivatedBtn, this, buttonWidth);
     connect(m_settingsButton, &PushButtonEx::clicked, this,
             [this] { changeSender(m_currentSender); });
 

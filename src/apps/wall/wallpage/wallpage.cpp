@@ -111,12 +111,12 @@ QWidget *WallPage::createZoomRow()
     constexpr int smallWidth = 36;
     constexpr int fitWidth = 64;
     auto *row = new QWidget(this);
-    auto *fit = parts::makeButton(QStringLiteral("Fit"), NoActivatedBtn, fitWidth, row);
+    auto *fit = theme::makeButton(QStringLiteral("Fit"), NoActivatedBtn, row, fitWidth);
     fit->setToolTip(QStringLiteral("Show the whole wall"));
-    auto *out = parts::makeButton(QStringLiteral("−"), NoActivatedBtn, smallWidth, row);
+    auto *out = theme::makeButton(QStringLiteral("−"), NoActivatedBtn, row, smallWidth);
     out->setAccessibleName(QStringLiteral("Zoom out"));
     out->setToolTip(QStringLiteral("Zoom out"));
-    auto *in = parts::makeButton(QStringLiteral("+"), NoActivatedBtn, smallWidth, row);
+    auto *in = theme::makeButton(QStringLiteral("+"), NoActivatedBtn, row, smallWidth);
     in->setAccessibleName(QStringLiteral("Zoom in"));
     in->setToolTip(QStringLiteral("Zoom in"));
     connect(fit, &PushButtonEx::clicked, this, &WallPage::zoomToFitRequested);

@@ -1,9 +1,9 @@
-#include "listbutton.h"
+#include "imagebutton.h"
 
 namespace orvane
 {
 
-void ListButton::mouseReleaseEvent(QMouseEvent *event)
+void ImageButton::mouseReleaseEvent(QMouseEvent *event)
 {
     // Past QToolButton, whose handler touches the button after clicked(). All it does there is to
     // forget a press on a menu arrow, which this button does not have.
@@ -11,10 +11,9 @@ void ListButton::mouseReleaseEvent(QMouseEvent *event)
     QAbstractButton::mouseReleaseEvent(event); // clazy:exclude=skipped-base-method
 }
 
-QString listButtonSheet(const QString &name)
+QString imageButtonSheet(const QString &stem)
 {
-    const QString image =
-        "{border-image: url(:/Resource/Images/globalResource/listwidget/" + name + "_";
+    const QString image = "{border-image: url(:/Resource/Images/globalResource/" + stem + "_";
     return "QToolButton" + image
         + "normal.png);}"
           "QToolButton:hover"
