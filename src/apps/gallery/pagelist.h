@@ -41,9 +41,6 @@ class Page;
     PAGE("Cabinet panels", ShapeWidgetContent)                                                     \
     PAGE("Window and dialogs", WindowTitle)                                                        \
     PAGE("Window and dialogs", WindowFrame)                                                        \
-    PAGE("Lists, tables and trees", TableWidgetEx)                                                 \
-    PAGE("Lists, tables and trees", TableWidgetCustom)                                             \
-    PAGE("Lists, tables and trees", NewTableWidget)                                                \
     PAGE("Window and dialogs", CustomMessageBox)                                                   \
     PAGE("Window and dialogs", CustomMegBox)                                                       \
     PAGE("Window and dialogs", CustomWidget)                                                       \
@@ -52,10 +49,13 @@ class Page;
     PAGE("Tabs", NQTabBar)                                                                         \
     PAGE("Tabs", NQTabWidget)                                                                      \
     PAGE("Lists, tables and trees", ListWidgetEx)                                                  \
-    PAGE("Lists, tables and trees", CustomListWidgetItem)                                          \
     PAGE("Lists, tables and trees", ListWidgetTitle)                                               \
+    PAGE("Lists, tables and trees", CustomListWidgetItem)                                          \
     PAGE("Lists, tables and trees", EquipListWidget)                                               \
     PAGE("Lists, tables and trees", CustomListWidgetMulItem)                                       \
+    PAGE("Lists, tables and trees", TableWidgetEx)                                                 \
+    PAGE("Lists, tables and trees", TableWidgetCustom)                                             \
+    PAGE("Lists, tables and trees", NewTableWidget)                                                \
     PAGE("Lists, tables and trees", TreeViewEx)                                                    \
     PAGE("Lists, tables and trees", TreeItem)                                                      \
     PAGE("Foundation", DefineCommonData)                                                           \
