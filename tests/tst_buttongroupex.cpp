@@ -500,7 +500,7 @@ private Q_SLOTS:
     {
         // A run of full blocks, so that the colour of the text fills pixels.
         ButtonGroupEx strip;
-        strip.setLabelText(QString(12, QChar(0x2588)));
+        strip.setLabelText(QString(13, QChar(0x2588)));
         QVERIFY(pointer::showAndWait(&strip));
         const QPoint center = title(strip)->rect().center();
         QCOMPARE(pointer::colorAt(title(strip), center), QColor(211, 211, 211));

@@ -242,7 +242,7 @@ private Q_SLOTS:
         // The text is a run of full blocks, so that its colour fills pixels.
         CheckBoxEx box;
         box.resize(200, 40);
-        box.setText(QString(8, QChar(0x2588)));
+        box.setText(QString(9, QChar(0x2588)));
         box.setFontColor(QColor(255, 0, 0));
         box.setFontColor(QColor(0, 255, 0));
         QVERIFY(pointer::showAndWait(&box));

@@ -617,7 +617,7 @@ private Q_SLOTS:
         QVERIFY(filled(30, 20, Qt::red).save(file));
         ComboBoxEx box;
         box.resize(160, 51);
-        box.addImageItem(file, QString(4, QChar(0x2588)));
+        box.addImageItem(file, QString(5, QChar(0x2588)));
         QVERIFY(pointer::showAndWait(&box));
         // Nothing is chosen yet.
         QCOMPARE(pointer::colorAt(&box, QPoint(20, 25)), QColor(69, 69, 69));

@@ -142,7 +142,7 @@ private Q_SLOTS:
 
     void colorIsSeenWhenSetBeforeAndAfterTheFirstShow()
     {
-        ComboboxItem row(nullptr, filled(10, 10, Qt::red), QString(4, QChar(0x2588)), 0);
+        ComboboxItem row(nullptr, filled(10, 10, Qt::red), QString(5, QChar(0x2588)), 0);
         row.setFontColor(QColor(255, 0, 0));
         row.setFontColor(QColor(0, 255, 0));
         QVERIFY(pointer::showAndWait(&row));

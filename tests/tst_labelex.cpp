@@ -76,7 +76,7 @@ private Q_SLOTS:
         // The text is a run of full blocks, so that its colour fills pixels.
         LabelEx label;
         label.resize(200, 40);
-        label.setText(QString(8, QChar(0x2588)));
+        label.setText(QString(9, QChar(0x2588)));
         label.setFontColor(QColor(255, 0, 0));
         label.setFontColor(QColor(0, 255, 0));
         QVERIFY(pointer::showAndWait(&label));

@@ -394,7 +394,7 @@ private Q_SLOTS:
         for (LineEditType type : {NormalLineEdit, UnderlineLineEdit}) {
             LineEditEx edit(nullptr, type);
             edit.resize(200, 40);
-            edit.setText(QString(8, QChar(0x2588)));
+            edit.setText(QString(9, QChar(0x2588)));
             QVERIFY(pointer::showAndWait(&edit));
             QCOMPARE(pointer::colorAt(&edit, QPoint(30, 20)), QColor(210, 210, 210));
             QCOMPARE(pointer::colorAt(&edit, QPoint(190, 20)), QColor(69, 69, 69));

@@ -186,7 +186,7 @@ private Q_SLOTS:
         list.setFontColor(QColor(255, 0, 0));
         list.setFontColor(QColor(250, 0, 250));
         // The text colour is that of items without a widget: rows inherit theirs from the palette.
-        list.addItem(QString(8, QChar(0x2588)));
+        list.addItem(QString(9, QChar(0x2588)));
         const auto check = [&](const QColor &normal, const QColor &hover, const QColor &pressed,
                                const QColor &font) {
             pointer::moveTo(&list, {295, 295});

@@ -695,7 +695,7 @@ private Q_SLOTS:
         button.setTopToBottomNormalBtnColor(QColor(255, 0, 0));
         button.setTopToBottomNormalBtnColor(QColor(0, 255, 0));
         // The caption is a run of full blocks, so that its colour fills pixels.
-        button.setStrDownText(QString(4, QChar(0x2588)));
+        button.setStrDownText(QString(5, QChar(0x2588)));
         button.setDownLabelTextColor(QColor(255, 0, 0));
         button.setDownLabelTextColor(QColor(255, 255, 0));
         QVERIFY(pointer::showAndWait(&button));

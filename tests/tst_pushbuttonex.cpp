@@ -203,7 +203,7 @@ private Q_SLOTS:
         // The text is a run of full blocks, so that its colour fills pixels.
         PushButtonEx button(nullptr, static_cast<BtnType>(kind));
         button.resize(200, 40);
-        button.setText(QString(8, QChar(0x2588)));
+        button.setText(QString(9, QChar(0x2588)));
         button.setEnabled(enabled);
         QVERIFY(pointer::showAndWait(&button));
         QCOMPARE(pointer::colorAt(&button, QPoint(100, 20)), expected);

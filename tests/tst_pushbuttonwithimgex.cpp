@@ -53,7 +53,7 @@ private Q_SLOTS:
         QWidget window;
         PushButtonWithImgEx button(m_first, m_second, &window);
         button.setGeometry(10, 10, 80, 60);
-        button.setText(QString(8, QChar(0x2588)));
+        button.setText(QString(9, QChar(0x2588)));
         expectWarning(firstPaint);
         QVERIFY(pointer::showAndWait(&window));
         QTRY_VERIFY(!button.testAttribute(static_cast<Qt::WidgetAttribute>(62)));

@@ -309,7 +309,7 @@ private Q_SLOTS:
         // The text is a run of full blocks, so that its colour fills pixels.
         RadioButtonEx button;
         button.resize(200, 40);
-        button.setText(QString(8, QChar(0x2588)));
+        button.setText(QString(9, QChar(0x2588)));
         button.setFontColor(QColor(255, 0, 0));
         button.setFontColor(QColor(0, 255, 0));
         QVERIFY(pointer::showAndWait(&button));

@@ -524,7 +524,7 @@ private Q_SLOTS:
         // A prefix of full blocks fills the text's pixels with the font colour.
         SpinBoxEx box;
         box.resize(200, 40);
-        box.setPrefix(QString(6, QChar(0x2588)));
+        box.setPrefix(QString(7, QChar(0x2588)));
         QVERIFY(pointer::showAndWait(&box));
         const QPoint inText(20, 20);
         const QPoint behindText(100, 2);

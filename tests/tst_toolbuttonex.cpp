@@ -1034,7 +1034,7 @@ private Q_SLOTS:
     void labelsShowTheirColors()
     {
         // The text is a run of full blocks, so that its colour fills pixels.
-        const QString blocks(12, QChar(0x2588));
+        const QString blocks(13, QChar(0x2588));
         ToolButtonEx button(nullptr, TopToBottomType, blocks, blocks);
         button.setUpLabelTextColor(QColor(255, 0, 0));
         button.setDownLabelTextColor(QColor(0, 255, 0));

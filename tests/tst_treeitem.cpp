@@ -68,9 +68,9 @@ private Q_SLOTS:
 
     void theNameIsLightAndTheSizeBelowItDarker()
     {
-        TreeItem item(QString(8, QChar(0x2588)), {500, 500});
+        TreeItem item(QString(9, QChar(0x2588)), {500, 500});
         item.resize(200, 60);
-        sizeLine(item)->setText(QString(8, QChar(0x2588)));
+        sizeLine(item)->setText(QString(9, QChar(0x2588)));
         QVERIFY(pointer::showAndWait(&item));
         const auto colorOf = [&](const QLabel *label) {
             return pointer::colorAt(&item, {15, label->geometry().center().y()});
@@ -148,7 +148,7 @@ private Q_SLOTS:
 
     void sheetsAreSeenWhenSetBeforeAndAfterTheFirstShow()
     {
-        const QString blocks(8, QChar(0x2588));
+        const QString blocks(9, QChar(0x2588));
         TreeItem item(blocks, {500, 500});
         item.resize(200, 60);
         sizeLine(item)->setText(blocks);

@@ -67,6 +67,11 @@ SampleFrame::SampleFrame(const std::function<Sample(QWidget *)> &make, const QSt
     }
 }
 
+SampleFrame::~SampleFrame()
+{
+    qApp->disconnect(this); // the focus still moves while the parts go
+}
+
 void SampleFrame::layOut()
 {
     auto *layout = new QHBoxLayout(this);

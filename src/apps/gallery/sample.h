@@ -67,6 +67,7 @@ public:
     /// \a make builds it with the frame as its parent.
     SampleFrame(const std::function<Sample(QWidget *parent)> &make, const QString &title,
                 const StateColumn &column, QWidget *parent);
+    ~SampleFrame() override;
 
     const Sample &sample() const { return m_sample; }
     /// What the sample is, in words.

@@ -36,7 +36,8 @@ bool CabinetClicks::isClick() const
 
 bool CabinetClicks::eventFilter(QObject *watched, QEvent *event)
 {
-    auto *button = static_cast<ToolButtonEx *>(watched);
+    // Only in the cases below: a button that is going is none any more.
+    const auto button = [watched] { return static_cast<ToolButtonEx *>(watched); };
     switch (event->type()) {
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
@@ -45,13 +46,13 @@ bool CabinetClicks::eventFilter(QObject *watched, QEvent *event)
         break;
     case QEvent::MouseMove:
     case QEvent::MouseButtonRelease:
-        follow(button, static_cast<QMouseEvent *>(event));
+        follow(button(), static_cast<QMouseEvent *>(event));
         break;
     case QEvent::KeyPress:
         if (!isChoosingKey(static_cast<QKeyEvent *>(event)))
             break;
         if (!static_cast<QKeyEvent *>(event)->isAutoRepeat())
-            Q_EMIT chosenByKey(button);
+            Q_EMIT chosenByKey(button());
         return true;
     case QEvent::KeyRelease:
         return isChoosingKey(static_cast<QKeyEvent *>(event));

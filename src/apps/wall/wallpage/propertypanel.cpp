@@ -107,6 +107,13 @@ PropertyPanel::PropertyPanel(Document *document, Selection *selection, QWidget *
     showTotals();
 }
 
+PropertyPanel::~PropertyPanel()
+{
+    // A field that loses the focus as it goes still ends its series.
+    for (NumberField *field : {m_x, m_y, m_rotation})
+        field->disconnect(this);
+}
+
 void PropertyPanel::rotateBy(int degrees)
 {
     rotateEach(degrees, newGesture());

@@ -29,6 +29,7 @@ class PropertyPanel : public QWidget
 
 public:
     PropertyPanel(Document *document, Selection *selection, QWidget *parent = nullptr);
+    ~PropertyPanel() override;
 
 public Q_SLOTS:
     /// Rotates each selected cabinet by \a degrees clockwise.
