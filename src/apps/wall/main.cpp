@@ -51,7 +51,7 @@ Request readCommandLine(int argc, char **argv)
     const QCommandLineOption versionOption = parser.addVersionOption();
     const QCommandLineOption demoOption("demo", "Opens the demo project.");
     const QCommandLineOption pageOption(
-        "page", "Begins with that page: " + wall::MainWindow::pageNames().join(", ") + ".", "name");
+        "page", "Begins with that page, or renders it alone: " + wall::MainWindow::pageNames().join(", ") + ".", "name");
     const QCommandLineOption generateOption(
         "generate", "Writes a project of so many cabinets to FILE, and opens no window.", "count");
     const QCommandLineOption renderOption(
@@ -82,6 +82,8 @@ Request readCommandLine(int argc, char **argv)
         return fail(QStringLiteral("there is no page \"%1\"; --help names them").arg(request.page));
     if (request.isDemo && !request.file.isEmpty())
         return fail("--demo and a file exclude each other");
+    if (parser.isSet(generateOption) && (parser.isSet(renderOption) || request.isDemo))
+        return fail("--generate excludes --render and --demo");
 
     if (parser.isSet(generateOption)) {
         bool isNumber = false;
@@ -98,6 +100,8 @@ Request readCommandLine(int argc, char **argv)
     if (parser.isSet(renderOption)) {
         request.kind = Request::Render;
         request.directory = parser.value(renderOption);
+        if (request.directory.isEmpty())
+            return fail("--render needs the FOLDER to write to");
         return request;
     }
     if (hostprogram::isDisplayMissing())
@@ -134,7 +138,7 @@ int main(int argc, char **argv)
     hostprogram::dress();
 
     if (request.kind == Request::Render) {
-        const QString error = wall::renderPages(request.file, request.directory);
+        const QString error = wall::renderPages(request.file, request.directory, request.page);
         return error.isEmpty() ? 0 : fail(error, failure).exitStatus;
     }
     wall::RecentProjects recent;
