@@ -58,7 +58,7 @@ constexpr QSize smallestSize(1100, 640);
 constexpr int rightAngle = 90;
 constexpr int viewModeWidth = 64;
 constexpr int iconSide = 20;
-constexpr int messageTime = 8000; // milliseconds
+constexpr int messageTime = 6000; // milliseconds
 constexpr int boxTextWidth = 560; // pixels
 
 // What a message box answers.
@@ -334,7 +334,9 @@ void MainWindow::createToolBar()
 
     QUndoStack *stack = m_document->undoStack();
     QAction *undo = addCommand("Undo", "undo", QKeySequence::Undo, [stack] { stack->undo(); });
-    QAction *redo = addCommand("Redo", "redo", QKeySequence::Redo, [stack] { stack->redo(); });
+    QAction *redo =
+        addCommand("Redo", "redo", Qt::CTRL + Qt::SHIFT + Qt::Key_Z, [stack] { stack->redo(); });
+    redo->setShortcuts({redo->shortcut(), Qt::CTRL + Qt::Key_Y}); // platforms differ in it
     undo->setEnabled(false);
     redo->setEnabled(false);
     connect(stack, &QUndoStack::canUndoChanged, undo, &QAction::setEnabled);
