@@ -204,8 +204,8 @@ private Q_SLOTS:
         // The smallest size is the end of it, and the other edges stay.
         QTest::newRow("right, too far")
             << QPoint(w - 3, 250) << QPoint(-900, 0) << QMargins(0, 0, -300, 0);
-        QTest::newRow("left, too far") << QPoint(2, 250) << QPoint(900, 0)
-                                       << QMargins(-300, 0, 0, 0);
+        QTest::newRow("left, too far")
+            << QPoint(2, 250) << QPoint(900, 0) << QMargins(-300, 0, 0, 0);
         QTest::newRow("top left, too far")
             << QPoint(2, 2) << QPoint(900, 900) << QMargins(-300, -300, 0, 0);
         QTest::newRow("bottom, too far")

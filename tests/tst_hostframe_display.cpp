@@ -1,5 +1,5 @@
-// A host's window on a real display with a window manager: xdotool moves the pointer and presses its
-// buttons. The window manager is the test's own, on the display that the test runs on.
+// A host's window on a real display with a window manager: xdotool moves the pointer and presses
+// its buttons. The window manager is the test's own, on the display that the test runs on.
 
 #include "support/testcase.h"
 
@@ -218,9 +218,8 @@ private Q_SLOTS:
         QFETCH(bool, byButton);
         const auto frame = showFrame();
         const auto toggle = [&] {
-            return byButton
-                ? clickOn(button(*frame, Maximize))
-                : moveTo(frame->mapToGlobal(QPoint(frame->width() / 2, 15)))
+            return byButton ? clickOn(button(*frame, Maximize))
+                            : moveTo(frame->mapToGlobal(QPoint(frame->width() / 2, 15)))
                     && xdotool({"click", "--repeat", "2", "--delay", "50", "1"});
         };
         for (int round = 0; round < 2; ++round) {

@@ -96,8 +96,8 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("named");
         QTest::newRow("unknown option")
             << QStringList{"--no-such-option"} << QByteArray("no-such-option");
-        QTest::newRow("two unknown options") << QStringList{"--first", "--second"}
-                                             << QByteArray("second");
+        QTest::newRow("two unknown options")
+            << QStringList{"--first", "--second"} << QByteArray("second");
         QTest::newRow("option without its value") << QStringList{"--page"} << QByteArray("page");
         QTest::newRow("unknown page") << QStringList{"--page", "Roof"} << QByteArray("\"Roof\"");
         QTest::newRow("unknown page to render")

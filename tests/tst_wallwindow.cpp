@@ -19,8 +19,8 @@
 #include "wallpage/senderpanel.h"
 #include "wallpage/wallpage.h"
 
-#include <custommessagebox.h>
 #include <customlistwidgetitem.h>
+#include <custommessagebox.h>
 #include <drawer.h>
 #include <draweritem.h>
 #include <draweritemcontent.h>
@@ -78,38 +78,46 @@ private:
     void answer()
     {
         auto *box = qobject_cast<CustomMessageBox *>(QApplication::activeModalWidget());
-        if (!box || !box->isVisible() || box == m_last)
+        if (!box || !box->isVisible() || !box->windowHandle()->isExposed())
             return;
+        if (box != m_last)
+            read(box);
+        if (m_button)
+            windowmouse::click(m_button); // and again if the box was not ready for it
+        else
+            box->reject(); // as Escape does
+    }
+
+    void read(CustomMessageBox *box)
+    {
         m_last = box;
         titles.append(box->findChild<QLabel *>("labelTitle")->text().trimmed());
         texts.append(box->findChild<QLabel *>("labelTips")->text());
         buttonTexts.clear();
-        PushButtonEx *button = nullptr;
+        m_button = nullptr;
         for (const QString &name : {applyButton, okButton, cancelButton}) {
             auto *each = box->findChild<QFrame *>(name)->findChild<PushButtonEx *>();
             if (each->isVisible())
                 buttonTexts.append(each->text());
             if (m_buttons.value(0) == name)
-                button = each;
+                m_button = each;
         }
         if (!m_buttons.isEmpty())
             m_buttons.removeFirst();
-        if (button)
-            windowmouse::click(button);
-        else
-            box->reject(); // as Escape does
     }
 
     QStringList m_buttons;
     QTimer m_timer;
     QPointer<CustomMessageBox> m_last;
+    QPointer<PushButtonEx> m_button;
 };
 
-/// Enters a name as if it was typed, but without the list of names that comes up while one types.
+/// Enters a name as if it was typed, which takes the proposed file's selection away, but without
+/// the list of names that comes up while one types.
 void typeName(QLineEdit *edit, const QString &name)
 {
+    edit->window()->findChild<QListView *>("listView")->clearSelection();
     edit->setText(name);
-    Q_EMIT edit->textEdited(name);
     QTest::keyClick(edit, Qt::Key_Return);
 }
 
@@ -145,9 +153,8 @@ protected:
         if (dialog && event->type() == QEvent::Show) {
             ++count;
             if (m_isCancelling) {
-                QTimer::singleShot(0, dialog, [dialog] {
-                    windowmouse::click(buttonNamed(dialog, "Cancel"));
-                });
+                QTimer::singleShot(0, dialog,
+                                   [dialog] { windowmouse::click(buttonNamed(dialog, "Cancel")); });
             }
         }
         return false;
@@ -250,8 +257,7 @@ struct Stage {
         window.openDemo();
         view()->placeNext(firstPort, panel);
         const CabinetId first = project()->cabinetIds().constFirst();
-        document()->push(
-            new MoveCabinetsCommand(project(), {{first, QPoint(-5000, -5000)}}, 0));
+        document()->push(new MoveCabinetsCommand(project(), {{first, QPoint(-5000, -5000)}}, 0));
         undoStack()->undo();
     }
 
@@ -526,30 +532,40 @@ private Q_SLOTS:
             content.replace(before, after);
             return content;
         };
-        QTest::newRow("missing") << QByteArray() << "" << "No such file";
-        QTest::newRow("folder") << QByteArray("folder") << "" << "director";
-        QTest::newRow("empty") << QByteArray("") << "" << "is empty";
+        QTest::newRow("missing") << QByteArray() << ""
+                                 << "No such file";
+        QTest::newRow("folder") << QByteArray("folder") << ""
+                                << "director";
+        QTest::newRow("empty") << QByteArray("") << ""
+                               << "is empty";
         QTest::newRow("no JSON") << QByteArray("{\n  \"format\": orvane\n}") << "line 2, column"
                                  << "";
-        QTest::newRow("ends early") << smallProject().left(400) << "line" << "";
-        QTest::newRow("another format")
-            << with("orvane-wall", "something") << "format" << "orvane-wall";
-        QTest::newRow("newer version")
-            << with("\"version\": 1", "\"version\": 2") << "version" << "2 is newer than 1";
-        QTest::newRow("no width") << with("\"width\": 192, ", "") << "models[0].width" << "";
-        QTest::newRow("width 0")
-            << with("\"width\": 192", "\"width\": 0") << "models[0].width" << "0 is not";
-        QTest::newRow("height too great") << with("\"height\": 192", "\"height\": 65537")
-                                          << "models[0].height" << "65537 is not";
+        QTest::newRow("ends early") << smallProject().left(400) << "line"
+                                    << "";
+        QTest::newRow("another format") << with("orvane-wall", "something") << "format"
+                                        << "orvane-wall";
+        QTest::newRow("newer version") << with("\"version\": 1", "\"version\": 2") << "version"
+                                       << "2 is newer than 1";
+        QTest::newRow("no width") << with("\"width\": 192, ", "") << "models[0].width"
+                                  << "";
+        QTest::newRow("width 0") << with("\"width\": 192", "\"width\": 0") << "models[0].width"
+                                 << "0 is not";
+        QTest::newRow("height too great")
+            << with("\"height\": 192", "\"height\": 65537") << "models[0].height"
+            << "65537 is not";
         QTest::newRow("port 17") << with("\"number\": 1", "\"number\": 17")
-                                 << "senders[0].ports[0].number" << "17 is not";
+                                 << "senders[0].ports[0].number"
+                                 << "17 is not";
         QTest::newRow("port 0") << with("\"number\": 1", "\"number\": 0")
-                                << "senders[0].ports[0].number" << "0 is not";
+                                << "senders[0].ports[0].number"
+                                << "0 is not";
         QTest::newRow("cabinet of an unknown port")
-            << with("\"port\": 1", "\"port\": 2") << "cabinets[0].port" << "";
+            << with("\"port\": 1", "\"port\": 2") << "cabinets[0].port"
+            << "";
         QTest::newRow("cabinet of an unknown model")
             << with("{\"model\": \"p26\", \"sender\"", "{\"model\": \"p3\", \"sender\"")
-            << "cabinets[0].model" << "p3";
+            << "cabinets[0].model"
+            << "p3";
     }
 
     void badFileChangesNothingAndSaysWhy()
@@ -777,7 +793,7 @@ private Q_SLOTS:
             const DialogAnswer answer([&](QDialog *dialog) {
                 auto *edit = dialog->findChild<QLineEdit *>("fileNameEdit");
                 proposed = edit->text();
-                typeName(edit, "second");
+                typeName(edit, stage.path("second"));
             });
             stage.press(Qt::CTRL + Qt::SHIFT + Qt::Key_S);
         }
@@ -926,9 +942,9 @@ private Q_SLOTS:
         Stage stage;
         const auto enabled = [&] {
             QStringList texts;
-            for (const char *text : {"Save", "Undo", "Redo", "Select all cabinets",
-                                     "Rotate by 90 degrees",
-                                     "Take the selected cabinets off the wall", "Grid"}) {
+            for (const char *text :
+                 {"Save", "Undo", "Redo", "Select all cabinets", "Rotate by 90 degrees",
+                  "Take the selected cabinets off the wall", "Grid"}) {
                 if (stage.command(text)->isEnabled())
                     texts.append(QString(text).section(' ', 0, 0));
             }
@@ -1013,8 +1029,8 @@ private Q_SLOTS:
         stage.press(QKeySequence(keys));
         QTRY_COMPARE(triggered.count(), 1);
         // So many ask for something: files, unsaved changes, or to be read.
-        const QStringList asking{"New project", "Open", "Save", "Save as", "Open the demo project",
-                                 "Shortcuts", "Quit"};
+        const QStringList asking{"New project",           "Open",      "Save", "Save as",
+                                 "Open the demo project", "Shortcuts", "Quit"};
         QTRY_COMPARE(dialogs > 0, asking.contains(text));
     }
 

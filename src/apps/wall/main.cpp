@@ -50,8 +50,10 @@ Request readCommandLine(int argc, char **argv)
     const QCommandLineOption helpOption = parser.addHelpOption();
     const QCommandLineOption versionOption = parser.addVersionOption();
     const QCommandLineOption demoOption("demo", "Opens the demo project.");
-    const QCommandLineOption pageOption(
-        "page", "Begins with that page, or renders it alone: " + wall::MainWindow::pageNames().join(", ") + ".", "name");
+    const QCommandLineOption pageOption("page",
+                                        "Begins with that page, or renders it alone: "
+                                            + wall::MainWindow::pageNames().join(", ") + ".",
+                                        "name");
     const QCommandLineOption generateOption(
         "generate", "Writes a project of so many cabinets to FILE, and opens no window.", "count");
     const QCommandLineOption renderOption(
@@ -88,10 +90,11 @@ Request readCommandLine(int argc, char **argv)
     if (parser.isSet(generateOption)) {
         bool isNumber = false;
         request.cabinetCount = parser.value(generateOption).toInt(&isNumber);
-        if (!isNumber || request.cabinetCount < 1 || request.cabinetCount > wall::maxCabinets)
+        if (!isNumber || request.cabinetCount < 1 || request.cabinetCount > wall::maxCabinets) {
             return fail(QStringLiteral("\"%1\" is no number of cabinets; 1 to %2 are possible")
                             .arg(parser.value(generateOption))
                             .arg(wall::maxCabinets));
+        }
         if (request.file.isEmpty())
             return fail("--generate needs the FILE to write");
         request.kind = Request::Generate;

@@ -289,8 +289,7 @@ void MainWindow::addShortcutsOfPages()
     for (int i = 0; i < m_pages->count(); ++i) {
         const QKeySequence keys(Qt::CTRL + Qt::Key_1 + i);
         m_pages->setTabToolTip(i, keys.toString(QKeySequence::NativeText));
-        connect(new QShortcut(keys, this), &QShortcut::activated, this,
-                [this, i] { goToPage(i); });
+        connect(new QShortcut(keys, this), &QShortcut::activated, this, [this, i] { goToPage(i); });
     }
 }
 
@@ -659,7 +658,8 @@ bool MainWindow::maySpoilChanges()
         return true;
     const int answer = CustomMegBox::questionMessageBox(
         this, "Unsaved changes",
-        inLines("\"" + m_document->title() + "\" has changes that are not saved."), false, "Discard", "Save", "Cancel");
+        inLines("\"" + m_document->title() + "\" has changes that are not saved."), false,
+        "Discard", "Save", "Cancel");
     if (answer == saveAnswer)
         return save();
     return answer == discardAnswer;
