@@ -4,10 +4,12 @@
 
 #include <windowtitle.h>
 
+#include <QChildEvent>
 #include <QCloseEvent>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QPushButton>
 #include <QScreen>
 
 namespace
@@ -16,12 +18,21 @@ namespace
 // Around the content the frame itself stays bare: it takes the pointer at the edges there.
 constexpr int edge = 6;
 constexpr int titleHeight = 30;
+constexpr int titleInset = 10; // the title is narrower than the frame by this
 constexpr QPoint logoPlace(10, 6);
+constexpr QSize logoSize(18, 18);
 constexpr int logoGap = 8;
+constexpr int roomAround = 80; // of the screen, beside or above and below the normal size
 
-QSize screenSize()
+QRect screenRect()
 {
-    return QGuiApplication::primaryScreen()->availableSize();
+    return QGuiApplication::primaryScreen()->availableGeometry();
+}
+
+QSize cutNormalSize(const QSize &normalSize, const QSize &smallestSize)
+{
+    const QSize room = screenRect().size() - QSize(roomAround, roomAround);
+    return normalSize.boundedTo(room.expandedTo(smallestSize)).boundedTo(screenRect().size());
 }
 
 } // namespace
@@ -33,54 +44,91 @@ HostFrame::HostFrame(const QSize &normalSize, const QSize &smallestSize, QWidget
 
 HostFrame::HostFrame(const LayoutWarningsMuted & /*muted*/, const QSize &normalSize,
                      const QSize &smallestSize, QWidget *parent)
-    : WindowFrame(screenSize(), screenSize(), normalSize.boundedTo(screenSize()), parent)
-    , m_maximumSize(screenSize())
+    : WindowFrame(screenRect().size(), screenRect().size(), cutNormalSize(normalSize, smallestSize),
+                  parent)
 {
-    SetFrameMinSize(smallestSize.boundedTo(screenSize())); // it keeps the size to go back to
+    // The frame has noted the size to go back to and takes this one for its edges from now on.
+    SetFrameMinSize(smallestSize.boundedTo(screenRect().size()));
     setContentsMargins(edge, titleHeight, edge, edge);
     WindowTitle *title = GetTitleWidget();
-    title->move(edge, 0); // the title is 10 pixels narrower than the frame
+    title->move(edge, 0);
     title->SetMinBtnToolTip("Minimise");
     title->SetMaxBtnToolTip("Maximise or restore");
     title->SetCloseBtnToolTip("Close");
     title->SetLogoGroupVisable(false);
+    for (auto signal :
+         {&WindowTitle::signal_maxMainForm, &WindowTitle::signal_mouseDoubleClickIntitle}) {
+        disconnect(title, signal, this, &WindowFrame::slot_showMaximized);
+        connect(title, signal, this, &HostFrame::slot_showMaximized);
+    }
 
-    const QScreen *screen = QGuiApplication::primaryScreen();
-    move(screen->availableGeometry().topLeft());
-    connect(screen, &QScreen::availableGeometryChanged, this, &HostFrame::followScreen);
+    move(screenRect().topLeft());
+    connect(QGuiApplication::primaryScreen(), &QScreen::availableGeometryChanged, this,
+            &HostFrame::followScreen);
 }
 
 void HostFrame::setLogo(const QString &picturePath, const QString &text)
 {
+    m_logoText = text;
     WindowTitle *title = GetTitleWidget();
-    const QSize pictureSize(18, 18);
-    title->SetLogoImageSize(pictureSize);
+    title->SetLogoImageSize(logoSize);
     title->SetLogoImagePath(picturePath);
-    const int textWidth = fontMetrics().horizontalAdvance(text) + 2 * logoGap;
-    title->SetLogoTextSize(QSize(textWidth, pictureSize.height()));
     title->SetLogoTextStyleSheet("QLabel{color:rgb(210,210,210);}");
-    title->SetLogoTextValue(text);
     title->SetLogoGroupVisable(true);
     // The library leaves the places of picture and text to the host, in this order.
     const QList<QLabel *> labels = title->findChildren<QLabel *>();
     labels.value(0)->move(logoPlace);
-    labels.value(1)->move(logoPlace.x() + pictureSize.width() + logoGap, logoPlace.y());
+    labels.value(1)->move(logoPlace.x() + logoSize.width() + logoGap, logoPlace.y());
+    fitLogoText();
+}
+
+void HostFrame::fitLogoText()
+{
+    WindowTitle *title = GetTitleWidget();
+    int room = width() - titleInset - logoPlace.x() - logoSize.width() - 2 * logoGap;
+    const QList<QPushButton *> buttons = title->findChildren<QPushButton *>();
+    for (const QPushButton *button : buttons)
+        room -= button->width() + logoGap;
+    const QString text = fontMetrics().elidedText(m_logoText, Qt::ElideMiddle, room);
+    const int textWidth = fontMetrics().horizontalAdvance(text) + 2 * logoGap;
+    title->SetLogoTextSize(QSize(textWidth, logoSize.height()));
+    title->SetLogoTextValue(text);
 }
 
 bool HostFrame::isMaximizedFrame() const
 {
-    return size() == m_maximumSize;
+    return m_isMaximized;
 }
 
 void HostFrame::resizeFrame(const QSize &size)
 {
+    if (m_isMaximized)
+        slot_showMaximized();
     SetFrameCurSize(size);
     rebuildUI();
+}
+
+void HostFrame::slot_showMaximized()
+{
+    WindowFrame::slot_showMaximized();
+    m_isMaximized = !m_isMaximized;
+    move(pos() + screenRect().topLeft());
 }
 
 bool HostFrame::mayClose()
 {
     return true;
+}
+
+void HostFrame::childEvent(QChildEvent *event)
+{
+    WindowFrame::childEvent(event);
+    // The frame's cursor is the one of the edge that the pointer came over; the content has none of
+    // its own and would go on showing it.
+    auto *child = qobject_cast<QWidget *>(event->child());
+    if (event->polished() && child && child != GetTitleWidget()
+        && !child->testAttribute(Qt::WA_SetCursor))
+        child->setCursor(Qt::ArrowCursor);
 }
 
 void HostFrame::closeEvent(QCloseEvent *event)
@@ -95,22 +143,38 @@ void HostFrame::closeEvent(QCloseEvent *event)
 void HostFrame::mousePressEvent(QMouseEvent *event)
 {
     QCursor cursor;
-    m_isResizing = event->button() == Qt::LeftButton && !isMaximizedFrame()
-        && IsInDragRect(event->localPos(), cursor);
-    // The frame takes a drag from its edge for a move of its outline.
-    if (!m_isResizing)
-        WindowFrame::mousePressEvent(event);
+    if (m_isMaximized) {
+        ReSetCurDragDirect();
+    } else if (event->button() == Qt::LeftButton && IsInDragRect(event->localPos(), cursor)) {
+        beginResize(*event); // the frame would take it for a move of its outline
+        return;
+    }
+    WindowFrame::mousePressEvent(event);
+}
+
+void HostFrame::beginResize(const QMouseEvent &event)
+{
+    m_isResizing = true;
+    m_rectAtPress = geometry();
+    const QPoint place = event.pos();
+    m_grip = QPoint(place.x() < width() / 2 ? 0 : width(), place.y() < height() / 2 ? 0 : height())
+        - place;
 }
 
 void HostFrame::mouseMoveEvent(QMouseEvent *event)
 {
-    if (!m_isResizing) {
+    if (m_isResizing) {
+        // From where it was at the press, as the window system may be late in telling where it is.
+        SetFrameCurSize(m_rectAtPress.size());
+        const QRect target =
+            GetNewWindowRect(m_rectAtPress.topLeft(), event->globalPos() + m_grip).toRect();
+        resizeFrame(target.size());
+        move(target.topLeft());
+    } else if (m_isMaximized && event->buttons() == Qt::NoButton) {
+        ReSetCurDragDirect(); // no edge to take hold of
+    } else {
         WindowFrame::mouseMoveEvent(event);
-        return;
     }
-    const QRect target = GetNewWindowRect(pos(), event->globalPos()).toRect();
-    resizeFrame(target.size());
-    move(target.topLeft());
 }
 
 void HostFrame::mouseReleaseEvent(QMouseEvent *event)
@@ -123,11 +187,18 @@ void HostFrame::mouseReleaseEvent(QMouseEvent *event)
     WindowFrame::mouseReleaseEvent(event);
 }
 
+void HostFrame::resizeEvent(QResizeEvent *event)
+{
+    WindowFrame::resizeEvent(event);
+    fitLogoText();
+}
+
 void HostFrame::followScreen()
 {
-    const bool wasMaximized = isMaximizedFrame();
-    m_maximumSize = screenSize();
-    SetFrameMaxSize(m_maximumSize);
-    if (wasMaximized)
-        resizeFrame(m_maximumSize);
+    SetFrameMaxSize(screenRect().size());
+    if (!m_isMaximized)
+        return;
+    SetFrameCurSize(screenRect().size());
+    rebuildUI();
+    move(screenRect().topLeft());
 }

@@ -50,8 +50,10 @@ Request readCommandLine(int argc, char **argv)
     const QCommandLineOption helpOption = parser.addHelpOption();
     const QCommandLineOption versionOption = parser.addVersionOption();
     const QCommandLineOption demoOption("demo", "Opens the demo project.");
-    const QCommandLineOption pageOption(
-        "page", "Begins with that page: " + wall::MainWindow::pageNames().join(", ") + ".", "name");
+    const QCommandLineOption pageOption("page",
+                                        "Begins with that page, or renders it alone: "
+                                            + wall::MainWindow::pageNames().join(", ") + ".",
+                                        "name");
     const QCommandLineOption generateOption(
         "generate", "Writes a project of so many cabinets to FILE, and opens no window.", "count");
     const QCommandLineOption renderOption(
@@ -82,14 +84,17 @@ Request readCommandLine(int argc, char **argv)
         return fail(QStringLiteral("there is no page \"%1\"; --help names them").arg(request.page));
     if (request.isDemo && !request.file.isEmpty())
         return fail("--demo and a file exclude each other");
+    if (parser.isSet(generateOption) && (parser.isSet(renderOption) || request.isDemo))
+        return fail("--generate excludes --render and --demo");
 
     if (parser.isSet(generateOption)) {
         bool isNumber = false;
         request.cabinetCount = parser.value(generateOption).toInt(&isNumber);
-        if (!isNumber || request.cabinetCount < 1 || request.cabinetCount > wall::maxCabinets)
+        if (!isNumber || request.cabinetCount < 1 || request.cabinetCount > wall::maxCabinets) {
             return fail(QStringLiteral("\"%1\" is no number of cabinets; 1 to %2 are possible")
                             .arg(parser.value(generateOption))
                             .arg(wall::maxCabinets));
+        }
         if (request.file.isEmpty())
             return fail("--generate needs the FILE to write");
         request.kind = Request::Generate;
@@ -98,6 +103,8 @@ Request readCommandLine(int argc, char **argv)
     if (parser.isSet(renderOption)) {
         request.kind = Request::Render;
         request.directory = parser.value(renderOption);
+        if (request.directory.isEmpty())
+            return fail("--render needs the FOLDER to write to");
         return request;
     }
     if (hostprogram::isDisplayMissing())
@@ -134,7 +141,7 @@ int main(int argc, char **argv)
     hostprogram::dress();
 
     if (request.kind == Request::Render) {
-        const QString error = wall::renderPages(request.file, request.directory);
+        const QString error = wall::renderPages(request.file, request.directory, request.page);
         return error.isEmpty() ? 0 : fail(error, failure).exitStatus;
     }
     wall::RecentProjects recent;

@@ -15,6 +15,7 @@
 #include "wallpage/wallpage.h"
 
 #include <custommegbox.h>
+#include <labelex.h>
 #include <mutexbuttonex.h>
 #include <nqtabwidget.h>
 #include <theme.h>
@@ -23,13 +24,17 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QDir>
 #include <QDragEnterEvent>
 #include <QFileDialog>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMimeData>
+#include <QPainter>
 #include <QShortcut>
 #include <QStackedWidget>
+#include <QTextDocument>
+#include <QTextLayout>
 #include <QUndoStack>
 #include <QVBoxLayout>
 
@@ -47,12 +52,14 @@ namespace
 
 constexpr char logoPath[] = ":/Resource/Image/logo.png";
 constexpr char fileFilter[] = "Wall projects (*.wall.json);;All files (*)";
-constexpr char fileSuffix[] = ".wall.json";
+constexpr char fileSuffix[] = "wall.json";
 constexpr QSize normalSize(1280, 760);
 constexpr QSize smallestSize(1100, 640);
 constexpr int rightAngle = 90;
 constexpr int viewModeWidth = 64;
 constexpr int iconSide = 20;
+constexpr int messageTime = 6000; // milliseconds
+constexpr int boxTextWidth = 560; // pixels
 
 // What a message box answers.
 constexpr int saveAnswer = 1;
@@ -71,13 +78,70 @@ ToolButtonEx *makeButton(QAction *command, QWidget *parent)
                           "QToolButton:hover{background:rgb(80,80,80);}"
                           "QToolButton:focus{border-color:rgb(66,145,240);}"
                           "QToolButton:checked{background:rgb(49,87,140);}"
-                          "QToolButton:pressed{background:rgb(66,145,240);}");
+                          "QToolButton:pressed{background:rgb(66,145,240);}"
+                          "QToolButton:checked:disabled{background:rgb(80,80,80);}");
     return button;
 }
 
-QString withSuffix(const QString &path)
+/// A picture of a command that stands back while the command is disabled.
+QIcon commandIcon(const QString &name)
 {
-    return QFileInfo(path).suffix().isEmpty() ? path + fileSuffix : path;
+    constexpr double strength = 0.35;
+    QIcon icon(":/wall/icons/" + name + ".png");
+    const QList<QSize> sizes = icon.availableSizes();
+    for (const QSize &size : sizes) {
+        const QPixmap whole = icon.pixmap(size);
+        QPixmap dim(whole.size());
+        dim.setDevicePixelRatio(whole.devicePixelRatio());
+        dim.fill(Qt::transparent);
+        QPainter painter(&dim);
+        painter.setOpacity(strength);
+        painter.drawPixmap(0, 0, whole);
+        painter.end();
+        icon.addPixmap(dim, QIcon::Disabled);
+    }
+    return icon;
+}
+
+/// A text in lines that a message box has room for, as the box breaks none.
+QString inLines(const QString &text)
+{
+    QTextOption option;
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    QStringList lines;
+    const QStringList paragraphs = text.split('\n');
+    for (const QString &paragraph : paragraphs) {
+        QTextLayout layout(paragraph, QApplication::font());
+        layout.setTextOption(option);
+        layout.beginLayout();
+        for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+            line.setLineWidth(boxTextWidth);
+            lines.append(paragraph.mid(line.textStart(), line.textLength()).trimmed());
+        }
+        layout.endLayout();
+    }
+    const QString plain = lines.join('\n');
+    // A name with marks such as "<b>" would be read as a rich text.
+    return Qt::mightBeRichText(plain) ? plain.toHtmlEscaped().replace('\n', "<br>") : plain;
+}
+
+/// What a new project begins with: models to build of.
+ProjectData newProjectData()
+{
+    ProjectData data;
+    data.models = demoProject().models;
+    return data;
+}
+
+/// The first widget on \a page that the Tab key reaches, null if there is none.
+QWidget *firstFocusWidget(const QWidget *page)
+{
+    for (QWidget *each = page->nextInFocusChain(); page->isAncestorOf(each);
+         each = each->nextInFocusChain()) {
+        if ((each->focusPolicy() & Qt::TabFocus) && each->isEnabled() && each->isVisibleTo(page))
+            return each;
+    }
+    return nullptr;
 }
 
 /// The one local file that is dragged, empty for anything else.
@@ -101,6 +165,7 @@ MainWindow::MainWindow(RecentProjects *recent, QWidget *parent)
     registerIcons();
     setWindowIcon(QIcon(logoPath));
     setAcceptDrops(true);
+    m_document->reset(newProjectData(), QString());
 
     auto *content = new QWidget(this);
     auto *layout = new QVBoxLayout(content);
@@ -117,17 +182,28 @@ MainWindow::MainWindow(RecentProjects *recent, QWidget *parent)
     connectView();
     connect(m_document, &Document::titleChanged, this, &MainWindow::updateTitle);
     connect(m_selection, &Selection::cabinetsChanged, this, &MainWindow::updateCommands);
+    connect(m_pages->getStackWidget(), &QStackedWidget::currentChanged, this,
+            &MainWindow::updateCommands);
     connect(m_document->project(), &Project::totalsChanged, this, &MainWindow::updateTotals);
     connect(m_document->project(), &Project::wasReset, this, &MainWindow::updateTotals);
+    connect(m_document->undoStack(), &QUndoStack::indexChanged, this,
+            [this] { showMessage(QString()); });
+    m_messageTimer.setSingleShot(true);
+    m_messageTimer.setInterval(messageTime);
+    connect(&m_messageTimer, &QTimer::timeout, this, [this] { showMessage(QString()); });
     updateTitle();
-    updateCommands();
     updateTotals();
+    goToPage(0);
 }
 
 MainWindow::~MainWindow()
 {
-    // The views know the document, so they go first.
+    // The views know the document, so they go first, and the document tells of its end.
     delete takeCentralWidget();
+    m_document->disconnect(this);
+    m_document->undoStack()->disconnect(this);
+    delete m_selection;
+    delete m_document;
 }
 
 Document *MainWindow::document() const
@@ -154,8 +230,16 @@ void MainWindow::showPage(const QString &name)
 {
     for (int i = 0; i < m_pages->count(); ++i) {
         if (m_pages->tabText(i).compare(name, Qt::CaseInsensitive) == 0)
-            m_pages->setCurrentIndex(i);
+            goToPage(i);
     }
+}
+
+void MainWindow::goToPage(int index)
+{
+    m_pages->setCurrentIndex(index);
+    const QWidget *page = m_pages->widget(index);
+    if (QWidget *first = page->isAncestorOf(m_view) ? m_view : firstFocusWidget(page))
+        first->setFocus(Qt::ShortcutFocusReason);
 }
 
 QString MainWindow::currentPage() const
@@ -187,7 +271,8 @@ void MainWindow::createPages()
     auto *start = new StartPage(m_recent);
     connect(start, &StartPage::newRequested, this, &MainWindow::newProject);
     connect(start, &StartPage::openDialogRequested, this, &MainWindow::openDialog);
-    connect(start, &StartPage::openRequested, this, &MainWindow::openFile);
+    // Later: it comes in the middle of a click on a row, or of a drop, whose source waits for it.
+    connect(start, &StartPage::openRequested, this, &MainWindow::openFile, Qt::QueuedConnection);
     connect(start, &StartPage::demoRequested, this, &MainWindow::openDemo);
 
     const QVector<QWidget *> pages = {start, createWallPage(), new ModelsPage(m_document),
@@ -204,8 +289,7 @@ void MainWindow::addShortcutsOfPages()
     for (int i = 0; i < m_pages->count(); ++i) {
         const QKeySequence keys(Qt::CTRL + Qt::Key_1 + i);
         m_pages->setTabToolTip(i, keys.toString(QKeySequence::NativeText));
-        connect(new QShortcut(keys, this), &QShortcut::activated, this,
-                [this, i] { m_pages->setCurrentIndex(i); });
+        connect(new QShortcut(keys, this), &QShortcut::activated, this, [this, i] { goToPage(i); });
     }
 }
 
@@ -214,12 +298,20 @@ QAction *MainWindow::addCommand(const QString &text, const QString &icon, const 
 {
     auto *command = new QAction(text, this);
     if (!icon.isEmpty())
-        command->setIcon(QIcon(":/wall/icons/" + icon + ".png"));
+        command->setIcon(commandIcon(icon));
     command->setShortcut(keys);
     command->setToolTip(text + " (" + keys.toString(QKeySequence::NativeText) + ")");
     connect(command, &QAction::triggered, this, [run] { run(); });
     addAction(command);
     m_commands.append(command);
+    return command;
+}
+
+QAction *MainWindow::addWallCommand(const QString &text, const QString &icon,
+                                    const QKeySequence &keys, const std::function<void()> &run)
+{
+    QAction *command = addCommand(text, icon, keys, run);
+    m_wallCommands.append(command);
     return command;
 }
 
@@ -241,7 +333,9 @@ void MainWindow::createToolBar()
 
     QUndoStack *stack = m_document->undoStack();
     QAction *undo = addCommand("Undo", "undo", QKeySequence::Undo, [stack] { stack->undo(); });
-    QAction *redo = addCommand("Redo", "redo", QKeySequence::Redo, [stack] { stack->redo(); });
+    QAction *redo =
+        addCommand("Redo", "redo", Qt::CTRL + Qt::SHIFT + Qt::Key_Z, [stack] { stack->redo(); });
+    redo->setShortcuts({redo->shortcut(), Qt::CTRL + Qt::Key_Y}); // platforms differ in it
     undo->setEnabled(false);
     redo->setEnabled(false);
     connect(stack, &QUndoStack::canUndoChanged, undo, &QAction::setEnabled);
@@ -250,21 +344,22 @@ void MainWindow::createToolBar()
     addToBar(redo);
     m_toolBar->addSeparator();
 
-    addToBar(addCommand("Select all cabinets", "selectall", Qt::CTRL + Qt::SHIFT + Qt::Key_A,
-                        [this] { m_view->selectAll(); }));
-    m_rotate = addCommand("Rotate by 90 degrees", "rotate", Qt::CTRL + Qt::Key_R,
-                          [this] { rotateSelected(); });
+    m_selectAll = addWallCommand("Select all cabinets", "selectall",
+                                 Qt::CTRL + Qt::SHIFT + Qt::Key_A, [this] { m_view->selectAll(); });
+    addToBar(m_selectAll);
+    m_rotate = addWallCommand("Rotate by 90 degrees", "rotate", Qt::CTRL + Qt::Key_R,
+                              [this] { rotateSelected(); });
     addToBar(m_rotate);
-    m_delete = addCommand("Take the selected cabinets off the wall", "delete",
-                          Qt::CTRL + Qt::Key_Backspace, [this] { m_view->removeSelected(); });
+    m_delete = addWallCommand("Take the selected cabinets off the wall", "delete",
+                              Qt::CTRL + Qt::Key_Backspace, [this] { m_view->removeSelected(); });
     addToBar(m_delete);
     m_toolBar->addSeparator();
 
-    addToBar(addCommand("Show the whole wall", "fit", Qt::CTRL + Qt::Key_0,
-                        [this] { m_view->zoomToFit(); }));
+    addToBar(addWallCommand("Show the whole wall", "fit", Qt::CTRL + Qt::Key_0,
+                            [this] { m_view->zoomToFit(); }));
     const auto addSwitch = [this](const QString &text, const QString &icon,
                                   const QKeySequence &keys, bool isOn, auto setter, auto changed) {
-        QAction *command = addCommand(text, icon, keys, [] {});
+        QAction *command = addWallCommand(text, icon, keys, [] {});
         command->setCheckable(true);
         command->setChecked(isOn);
         connect(command, &QAction::toggled, m_view, setter);
@@ -275,10 +370,10 @@ void MainWindow::createToolBar()
               &LayoutView::setGridVisible, &LayoutView::gridVisibleChanged);
     addSwitch("Snap to the grid", "snap", Qt::CTRL + Qt::SHIFT + Qt::Key_G, m_view->snapsToGrid(),
               &LayoutView::setSnapsToGrid, &LayoutView::snapsToGridChanged);
-    addCommand("Zoom in", QString(), QKeySequence::ZoomIn, [this] { m_view->zoomIn(); });
-    addCommand("Zoom out", QString(), QKeySequence::ZoomOut, [this] { m_view->zoomOut(); });
-    addCommand("New order of a data line", QString(), Qt::CTRL + Qt::Key_L,
-               [this] { m_view->setOrdering(!m_view->isOrdering()); });
+    addWallCommand("Zoom in", QString(), QKeySequence::ZoomIn, [this] { m_view->zoomIn(); });
+    addWallCommand("Zoom out", QString(), QKeySequence::ZoomOut, [this] { m_view->zoomOut(); });
+    addWallCommand("New order of a data line", QString(), Qt::CTRL + Qt::Key_L,
+                   [this] { m_view->setOrdering(!m_view->isOrdering()); });
     addCommand("Maximise or restore the window", QString(), Qt::Key_F11,
                [this] { slot_showMaximized(); });
     addCommand("Minimise the window", QString(), Qt::CTRL + Qt::Key_M,
@@ -322,6 +417,7 @@ void MainWindow::createViewModes()
                 button->setChecked(true);
         });
     }
+    m_viewModes = strip;
     m_toolBar->addWidget(strip, RightPos);
 }
 
@@ -329,7 +425,8 @@ QWidget *MainWindow::createStatusLine()
 {
     auto *line = new QWidget(this);
     line->setFixedHeight(6 * theme::unit);
-    m_message = new QLabel(line);
+    m_message = new LabelEx(line);
+    m_message->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_cursor = new QLabel(line);
     m_totals = new QLabel(line);
     m_message->setAccessibleName("Message");
@@ -365,9 +462,14 @@ void MainWindow::updateTitle()
 
 void MainWindow::updateCommands()
 {
-    const bool hasSelection = !m_selection->cabinets().isEmpty();
-    m_rotate->setEnabled(hasSelection);
-    m_delete->setEnabled(hasSelection);
+    const bool isWallSeen = m_pages->currentWidget()->isAncestorOf(m_view);
+    for (QAction *command : qAsConst(m_wallCommands))
+        command->setEnabled(isWallSeen);
+    m_viewModes->setVisible(isWallSeen);
+    const bool hasSelection = !m_selection->isEmpty();
+    m_selectAll->setEnabled(isWallSeen && m_document->project()->cabinetCount() > 0);
+    m_rotate->setEnabled(isWallSeen && hasSelection);
+    m_delete->setEnabled(isWallSeen && hasSelection);
     m_save->setEnabled(m_document->isModified() || m_document->filePath().isEmpty());
 }
 
@@ -376,23 +478,38 @@ void MainWindow::updateTotals()
     const Totals totals = m_document->project()->totals();
     m_totals->setText(countText(totals.cabinets) + " cabinets,  " + countText(totals.pixels)
                       + " pixels,  " + weightText(totals.weight) + ",  " + powerText(totals.power));
+    updateCommands();
 }
 
 void MainWindow::showMessage(const QString &message)
 {
     m_message->setText(message);
+    if (message.isEmpty())
+        m_messageTimer.stop();
+    else
+        m_messageTimer.start();
+}
+
+void MainWindow::resizeEvent(QResizeEvent *event)
+{
+    HostFrame::resizeEvent(event);
+    if (m_message)
+        m_message->setText(m_message->text()); // it is cut to the room that it has now
 }
 
 void MainWindow::showShortcuts()
 {
-    QStringList lines;
-    for (const QAction *command : qAsConst(m_commands)) {
-        lines.append(command->shortcut().toString(QKeySequence::NativeText) + "   "
-                     + command->text());
-    }
-    lines.append("Ctrl+1 to Ctrl+4   The pages");
-    lines.append("Alt+1 to Alt+3   What the colours of the cabinets mean");
-    CustomMegBox::informationMessageBox(this, "Shortcuts", lines.join('\n'), "Close");
+    // Short marks, as the box makes room for every letter of the text.
+    QString rows;
+    const auto addRow = [&rows](const QString &keys, const QString &what) {
+        rows += (rows.isEmpty() ? "<tr><td width=130>" : "<tr><td>") + keys.toHtmlEscaped() + "<td>"
+            + what.toHtmlEscaped();
+    };
+    for (const QAction *command : qAsConst(m_commands))
+        addRow(command->shortcut().toString(QKeySequence::NativeText), command->text());
+    addRow("Ctrl+1 to Ctrl+4", "The pages");
+    addRow("Alt+1 to Alt+3", "What the colours of the cabinets mean");
+    CustomMegBox::informationMessageBox(this, "Shortcuts", "<table>" + rows + "</table>", "Close");
 }
 
 // What they do
@@ -412,22 +529,31 @@ void MainWindow::rotateSelected()
 void MainWindow::placeRow(const QString &senderId, int portNumber, const QString &modelId,
                           int count)
 {
-    // One step for the user, however many cabinets it places.
-    m_document->undoStack()->beginMacro("Place a row");
-    for (int i = 0; i < count; ++i) {
-        if (!m_view->placeNext({senderId, portNumber}, modelId))
-            break;
-    }
-    m_document->undoStack()->endMacro();
+    // The first one tells whether there is anything to do.
+    if (count < 1 || !m_view->placeNext({senderId, portNumber}, modelId) || count == 1)
+        return;
+    // One step for the user, however many cabinets it places; the first one again as part of it.
+    QUndoStack *stack = m_document->undoStack();
+    stack->undo();
+    ProgressDialog dialog("Placing a row", this);
+    const Progress progress = dialog.progress();
+    stack->beginMacro("Place a row");
+    int placed = 0;
+    while (placed < count && progress(100 * placed / count)
+           && m_view->placeNext({senderId, portNumber}, modelId))
+        ++placed;
+    const QString reason = m_message->text();
+    stack->endMacro();
+    dialog.hide();
+    if (placed < count)
+        showMessage(reason);
 }
 
 bool MainWindow::newProject()
 {
     if (!maySpoilChanges())
         return false;
-    ProjectData data;
-    data.models = demoProject().models; // something to begin with
-    open(data, QString());
+    open(newProjectData(), QString());
     return true;
 }
 
@@ -441,24 +567,40 @@ bool MainWindow::openDemo()
 
 bool MainWindow::openFile(const QString &path)
 {
-    ProgressDialog dialog("Opening " + QFileInfo(path).fileName(), this);
-    LoadResult result = loadProject(path, dialog.progress());
-    dialog.hide();
-    if (result.state == LoadResult::Failed)
-        report("The project was not opened", result.error);
+    std::optional<ProjectData> data = load(path);
+    const bool wasModified = m_document->isModified();
     // Only now: a file that cannot be opened is no reason to give up the open project.
-    if (result.state != LoadResult::Loaded || !maySpoilChanges())
+    if (!data || !maySpoilChanges())
         return false;
-    open(result.data, path);
+    // What was read may have been replaced by what was just saved.
+    if (wasModified && !m_document->isModified()
+        && QFileInfo(path) == QFileInfo(m_document->filePath()))
+        data = load(path);
+    if (!data)
+        return false;
+    open(*data, QFileInfo(path).absoluteFilePath());
     m_recent->add(path);
     return true;
 }
 
+std::optional<ProjectData> MainWindow::load(const QString &path)
+{
+    ProgressDialog dialog("Opening " + QFileInfo(path).fileName(), this);
+    const LoadResult result = loadProject(path, dialog.progress());
+    dialog.hide();
+    if (result.state == LoadResult::Failed)
+        report("The project was not opened", result.error);
+    if (result.state != LoadResult::Loaded)
+        return std::nullopt;
+    return result.data;
+}
+
 bool MainWindow::openDialog()
 {
-    const QString path = QFileDialog::getOpenFileName(this, "Open a project", QString(),
-                                                      QString::fromLatin1(fileFilter));
-    return !path.isEmpty() && openFile(path);
+    QFileDialog dialog(this, "Open a project", QFileInfo(m_document->filePath()).path(),
+                       QString::fromLatin1(fileFilter));
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    return dialog.exec() == QDialog::Accepted && openFile(dialog.selectedFiles().value(0));
 }
 
 bool MainWindow::save()
@@ -468,9 +610,16 @@ bool MainWindow::save()
 
 bool MainWindow::saveAs()
 {
-    const QString path = QFileDialog::getSaveFileName(this, "Save the project", QString(),
-                                                      QString::fromLatin1(fileFilter));
-    return !path.isEmpty() && saveFile(withSuffix(path));
+    QFileDialog dialog(this, "Save the project", QFileInfo(m_document->filePath()).path(),
+                       QString::fromLatin1(fileFilter));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setDefaultSuffix(fileSuffix); // before it asks about a file that is there
+    if (m_document->filePath().isEmpty())
+        dialog.selectFile(QString(m_document->title()).replace('/', '-') + '.' + fileSuffix);
+    else
+        dialog.selectFile(QFileInfo(m_document->filePath()).fileName());
+    return dialog.exec() == QDialog::Accepted && saveFile(dialog.selectedFiles().value(0));
 }
 
 bool MainWindow::saveFile(const QString &path)
@@ -482,7 +631,7 @@ bool MainWindow::saveFile(const QString &path)
         report("The project was not saved", result.error);
     if (result.state != SaveResult::Saved)
         return false;
-    m_document->markSaved(path);
+    m_document->markSaved(QFileInfo(path).absoluteFilePath());
     m_recent->add(path);
     showMessage("Saved " + QFileInfo(path).fileName());
     return true;
@@ -491,14 +640,16 @@ bool MainWindow::saveFile(const QString &path)
 void MainWindow::open(const ProjectData &data, const QString &path)
 {
     m_document->reset(data, path);
-    m_view->zoomToFit();
+    m_view->zoomToFit(); // and fits the wall once more when it is shown
     showPage("Wall");
     showMessage(QString());
 }
 
 void MainWindow::report(const QString &title, const FileError &error)
 {
-    CustomMegBox::criticalMessageBox(this, title, error.message(), "OK");
+    QStringList lines{QDir::toNativeSeparators(error.file), error.place, error.problem};
+    lines.removeAll(QString());
+    CustomMegBox::criticalMessageBox(this, title, inLines(lines.join('\n')), "OK");
 }
 
 bool MainWindow::maySpoilChanges()
@@ -506,8 +657,9 @@ bool MainWindow::maySpoilChanges()
     if (!m_document->isModified())
         return true;
     const int answer = CustomMegBox::questionMessageBox(
-        this, "Unsaved changes", "\"" + m_document->title() + "\" has changes that are not saved.",
-        false, "Discard", "Save", "Cancel");
+        this, "Unsaved changes",
+        inLines("\"" + m_document->title() + "\" has changes that are not saved."), false,
+        "Discard", "Save", "Cancel");
     if (answer == saveAnswer)
         return save();
     return answer == discardAnswer;
@@ -530,7 +682,8 @@ void MainWindow::dropEvent(QDropEvent *event)
     if (path.isEmpty())
         return;
     event->acceptProposedAction();
-    openFile(path);
+    // Later: the program that the file is dragged from waits for the end of the drop.
+    QTimer::singleShot(0, this, [this, path] { openFile(path); });
 }
 
 } // namespace wall

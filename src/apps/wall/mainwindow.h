@@ -3,12 +3,13 @@
 
 #include <hostframe.h>
 
-#include <QPointer>
+#include <QTimer>
 #include <QVector>
 
 #include <functional>
+#include <optional>
 
-class MutexButtonEx;
+class LabelEx;
 class NQTabWidget;
 class QAction;
 class QLabel;
@@ -44,7 +45,7 @@ public:
 
     /// "Start", "Wall", "Models" and "Devices".
     static QStringList pageNames();
-    /// Shows the page of that name, whatever its letters' case.
+    /// Shows the page of that name, whatever its letters' case, and gives it the focus.
     void showPage(const QString &name);
     QString currentPage() const;
 
@@ -58,7 +59,8 @@ public Q_SLOTS:
     bool save();
     bool saveAs();
     bool saveFile(const QString &path);
-    /// Says what was refused, or what can be done now, in the line below the pages.
+    /// Says what was refused, or what can be done now, in the line below the pages: until the next
+    /// change, and for some seconds at most.
     void showMessage(const QString &message);
     void showShortcuts();
 
@@ -66,6 +68,7 @@ protected:
     bool mayClose() override;
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dropEvent(QDropEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     QWidget *createWallPage();
@@ -76,13 +79,19 @@ private:
     void connectView();
     QAction *addCommand(const QString &text, const QString &icon, const QKeySequence &keys,
                         const std::function<void()> &run);
+    /// A command that works while the wall is seen.
+    QAction *addWallCommand(const QString &text, const QString &icon, const QKeySequence &keys,
+                            const std::function<void()> &run);
     void addShortcutsOfPages();
     void addToBar(QAction *command);
+    void goToPage(int index);
     void updateTitle();
     void updateCommands();
     void updateTotals();
     void rotateSelected();
     void placeRow(const QString &senderId, int portNumber, const QString &modelId, int count);
+    /// The project in a file; what is wrong with it is told.
+    std::optional<ProjectData> load(const QString &path);
     /// Asks what to do with changes that are not saved; false if the user wants to stay.
     bool maySpoilChanges();
     void open(const ProjectData &data, const QString &path);
@@ -95,10 +104,14 @@ private:
     NQTabWidget *m_pages;
     LayoutView *m_view;
     QVector<QAction *> m_commands;
+    QVector<QAction *> m_wallCommands;
     QAction *m_save = nullptr;
+    QAction *m_selectAll = nullptr;
     QAction *m_rotate = nullptr;
     QAction *m_delete = nullptr;
-    QLabel *m_message = nullptr;
+    QWidget *m_viewModes = nullptr;
+    LabelEx *m_message = nullptr;
+    QTimer m_messageTimer;
     QLabel *m_cursor = nullptr;
     QLabel *m_totals = nullptr;
 };

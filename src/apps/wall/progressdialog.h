@@ -26,8 +26,12 @@ public:
     /// Sets how long the work goes on unseen, in milliseconds.
     void setDelay(int milliseconds);
 
-protected:
+public Q_SLOTS:
+    /// Cancels the work, as Escape and the button do.
     void reject() override;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
 
 private:
     bool update(int percent);

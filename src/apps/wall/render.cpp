@@ -38,7 +38,7 @@ void settle()
 
 } // namespace
 
-QString renderPages(const QString &file, const QString &directory)
+QString renderPages(const QString &file, const QString &directory, const QString &page)
 {
     ProjectData data = demoProject();
     if (!file.isEmpty()) {
@@ -62,6 +62,8 @@ QString renderPages(const QString &file, const QString &directory)
     QString error;
     const QStringList names = MainWindow::pageNames();
     for (const QString &name : names) {
+        if (!page.isEmpty() && name.compare(page, Qt::CaseInsensitive) != 0)
+            continue;
         window.showPage(name);
         settle();
         const QString path = target.filePath(name.toLower() + ".png");

@@ -7,9 +7,9 @@ namespace wall
 {
 
 /// Writes a picture of the window at each of its pages to \a directory, which is made if it is
-/// missing: of the project in \a file, or of the demo project if that is empty. Returns what went
-/// wrong, empty if nothing did.
-QString renderPages(const QString &file, const QString &directory);
+/// missing: of the project in \a file, or of the demo project if that is empty. With a \a page
+/// only of that one. Returns what went wrong, empty if nothing did.
+QString renderPages(const QString &file, const QString &directory, const QString &page = QString());
 
 } // namespace wall
 

@@ -23,6 +23,11 @@ CabinetIds Selection::cabinets() const
     return CabinetIds(m_cabinets.cbegin(), m_cabinets.cend());
 }
 
+bool Selection::isEmpty() const
+{
+    return m_cabinets.isEmpty();
+}
+
 bool Selection::contains(CabinetId id) const
 {
     return m_cabinets.contains(id);

@@ -19,6 +19,7 @@ public:
 
     /// The selected cabinets, each once, in no particular order.
     CabinetIds cabinets() const;
+    bool isEmpty() const;
     bool contains(CabinetId id) const;
     /// Selects these and no others; unknown ones are left out.
     void setCabinets(const CabinetIds &ids);
