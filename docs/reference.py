@@ -5,8 +5,8 @@
                                    about each class without a picture in the folder PICTURES
   reference.py filter HEADER       print the header as Doxygen is to read it: with the family of
                                    each item and the picture of each class in its documentation
-  reference.py check XML           complain about each public item without documentation, and about each
-                                   class without a picture
+  reference.py check FOLDER        complain about each public item without documentation, each class
+                                   without a picture, and each page whose pictures are not there
 
 The families are the headings in the library's CMakeLists.txt.  The gallery renders the pictures,
 one for each of its pages.  Doxygen itself complains about most items without documentation, but
@@ -100,10 +100,17 @@ def is_documented(element):
     return any("".join(part.itertext()).strip() for part in parts if part is not None)
 
 
-def check(folder):
+def check_pictures(folder):
+    return [f"{page.name} shows {picture}, which is not there"
+            for page in sorted(folder.glob("*.html"))
+            for picture in re.findall(r'<img src="([^"]+)"', page.read_text(encoding="utf-8"))
+            if not (folder / picture).is_file()]
+
+
+def check_items(folder):
     found = set()
     missing = []
-    for path in sorted(Path(folder).glob("*.xml")):
+    for path in sorted(folder.glob("*.xml")):
         if path.name == "index.xml":
             continue
         for compound in ET.parse(path).getroot().iter("compounddef"):
@@ -143,7 +150,8 @@ def main():
         sys.stdout.write(filtered(Path(arguments[0])))
         return
     elif (verb, len(arguments)) == ("check", 1):
-        complaints = check(*arguments)
+        folder = Path(*arguments)
+        complaints = check_items(folder / "xml") + check_pictures(folder / "html")
     else:
         sys.exit(__doc__)
     for complaint in complaints:
