@@ -87,7 +87,9 @@ public:
     QString fromColorToStr(QColor color);
 
 protected:
+    /// Presses the box as every button, and repaints it.
     void mousePressEvent(QMouseEvent *event) override;
+    /// Toggles the box as every button, and repaints it.
     void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:

@@ -162,6 +162,9 @@ Q_SIGNALS:
     void signal_clickedItem(int index);
 
 protected:
+    /// Paints the box. Over it come, after setIsChangeImg(true), the picture of setDefaultPixMap()
+    /// at the top left corner, else in image mode the image of the chosen row and, with
+    /// setIsDrawText(), its text.
     void paintEvent(QPaintEvent *event) override;
 
 private Q_SLOTS:

@@ -56,7 +56,9 @@ Q_SIGNALS:
     void showContent(QPixmap pixmap, QString text, int index);
 
 protected:
+    /// Notes the press, whatever the button; nothing is reported yet.
     void mousePressEvent(QMouseEvent *event) override;
+    /// Emits showContent(), if the row was pressed before. The row may be deleted there.
     void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:

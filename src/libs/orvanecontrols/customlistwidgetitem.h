@@ -48,8 +48,12 @@ public Q_SLOTS:
     void slot_deleteItem();
 
 protected:
+    /// Emits signal_notifyProjectPath() when the left button goes down. The event then goes to the
+    /// base class, if the row still exists.
     void mousePressEvent(QMouseEvent *event) override;
+    /// Shows the delete button and the hand cursor.
     void enterEvent(QEvent *event) override;
+    /// Hides the delete button and takes back the hand cursor.
     void leaveEvent(QEvent *event) override;
 
 private:

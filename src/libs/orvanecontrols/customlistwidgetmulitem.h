@@ -58,8 +58,11 @@ public Q_SLOTS:
     void slot_dealEnterButtonClick();
 
 protected:
+    /// Swallows the press, so that it selects no row.
     void mousePressEvent(QMouseEvent *event) override;
+    /// Swallows the release, so that it selects no row.
     void mouseReleaseEvent(QMouseEvent *event) override;
+    /// Emits signal_itemDoubleClicked(), whatever the button.
     void mouseDoubleClickEvent(QMouseEvent *event) override;
 
 private:

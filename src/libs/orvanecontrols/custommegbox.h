@@ -13,11 +13,12 @@ class QWidget;
  *
  * The result is 1 for OK, Return and Enter, 0 for cancel and Escape, and also when the parent was
  * destroyed meanwhile, 2 for apply, 255 for the close button. The texts of hidden buttons do not
- * matter. There are no instances.
+ * matter.
  */
 class ORVANECONTROLS_EXPORT CustomMegBox
 {
 public:
+    /// There are no instances.
     CustomMegBox() = delete;
 
     /// A note, with an OK button.

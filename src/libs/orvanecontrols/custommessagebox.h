@@ -84,10 +84,16 @@ public Q_SLOTS:
     void slot_closeBtnClicked();
 
 protected:
+    /// Accepts the box on Return and Enter. Every key then goes to QDialog, if the box still
+    /// exists: Escape rejects it.
     void keyPressEvent(QKeyEvent *event) override;
+    /// Starts to move the box with the left button.
     void mousePressEvent(QMouseEvent *event) override;
+    /// Moves the box along while the left button is held.
     void mouseMoveEvent(QMouseEvent *event) override;
+    /// Ends the move, whatever the button.
     void mouseReleaseEvent(QMouseEvent *event) override;
+    /// Paints the ground and, around it, the shadow.
     void paintEvent(QPaintEvent *event) override;
 
 private:

@@ -15,6 +15,7 @@
 class ORVANECONTROLS_EXPORT DefineCommonData
 {
 public:
+    /// Builds an object without any content: the texts need none.
     DefineCommonData() = default;
 
     /// The text of buttons, headers and rows, 9 points.

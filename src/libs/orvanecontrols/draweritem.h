@@ -128,10 +128,17 @@ public:
     /// The host's number. \see setMoudelID()
     int getMoudelID();
 
+    /// Swallows the press: it is no press on what lies behind the item.
     void mousePressEvent(QMouseEvent *event) override;
+    /// Swallows the release.
     void mouseReleaseEvent(QMouseEvent *event) override;
+    /// Watches the header: reports a click of the left button on it, and enables the delete button
+    /// of an offline device while the pointer is over it. It holds no event back, unless the header
+    /// was deleted in a signal.
     bool eventFilter(QObject *watched, QEvent *event) override;
+    /// Shows the handle of the scroll area's bar.
     void enterEvent(QEvent *event) override;
+    /// Hides the handle of the scroll area's bar.
     void leaveEvent(QEvent *event) override;
 
 Q_SIGNALS:

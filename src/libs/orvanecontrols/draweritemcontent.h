@@ -47,7 +47,9 @@ public:
     /// Does nothing; the body has no tool tip of its own.
     void setToolTipText(QString text);
 
+    /// Does nothing.
     void enterEvent(QEvent *event) override;
+    /// Does nothing.
     void leaveEvent(QEvent *event) override;
 
 Q_SIGNALS:

@@ -88,6 +88,8 @@ public Q_SLOTS:
     void slot_emitSettingData(CustomListWidgetMulItem *item);
 
 protected:
+    /// Keeps the refresh animation over the list when the list moves or changes its size. It holds
+    /// no event back.
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:

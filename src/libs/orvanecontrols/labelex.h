@@ -49,8 +49,12 @@ Q_SIGNALS:
     void signal_mouseleave();
 
 protected:
+    /// Emits signal_mouseclicked() when the left button goes down. The event then goes to QLabel,
+    /// if the label still exists.
     void mousePressEvent(QMouseEvent *e) override;
+    /// Emits signal_mouseenter().
     void enterEvent(QEvent *e) override;
+    /// Emits signal_mouseleave().
     void leaveEvent(QEvent *e) override;
 
 private:

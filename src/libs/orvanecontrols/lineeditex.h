@@ -68,7 +68,10 @@ public:
     QString fromColorToStr(QColor color);
 
 protected:
+    /// Shows the warning of setStrToolTips() under the cursor, for 3000 ms, when the key is a
+    /// character that file names do not allow. The key is then taken as every other.
     void keyPressEvent(QKeyEvent *event) override;
+    /// Paints the field, and a line at its bottom if it is an underlined one.
     void paintEvent(QPaintEvent *event) override;
 
 private Q_SLOTS:

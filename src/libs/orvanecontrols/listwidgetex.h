@@ -75,6 +75,8 @@ public Q_SLOTS:
     void slot_notifyDeleteItem(CustomListWidgetItem *item);
 
 protected:
+    /// Takes in new rows. Their layout is put off until the list paints, so that many rows with
+    /// widgets cost no more than their number.
     void rowsInserted(const QModelIndex &parent, int start, int end) override;
 
 private:

@@ -51,6 +51,7 @@ public Q_SLOTS:
     void on_valueChange(int value);
 
 protected:
+    /// Fits the last column and the header box to the new size.
     void resizeEvent(QResizeEvent *event) override;
 
 private:

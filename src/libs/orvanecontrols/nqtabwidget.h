@@ -137,6 +137,7 @@ public Q_SLOTS:
     void slot_tabCloseRequested(int index);
 
 protected:
+    /// Gives the tab bar the new width as its maximum.
     void resizeEvent(QResizeEvent *event) override;
 
 private:

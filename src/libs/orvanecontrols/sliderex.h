@@ -86,6 +86,8 @@ Q_SIGNALS:
     void sliderMouseRealse();
 
 protected:
+    /// Emits sliderMouseRealse(), whatever the button, and then ends the drag, if the slider still
+    /// exists.
     void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:

@@ -29,7 +29,10 @@ Q_SIGNALS:
     void sliderMouseRealse(); // clazy:exclude=overridden-signal
 
 protected:
+    /// Drags the handle while the left button is held; ignores every other move.
     void mouseMoveEvent(QMouseEvent *event) override;
+    /// Sets the value at the pointer's place along the width when the left button goes up, and
+    /// emits sliderMouseRealse() if that is a new one. The event goes no further.
     void mouseReleaseEvent(QMouseEvent *event) override;
 };
 

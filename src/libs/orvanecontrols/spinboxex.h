@@ -81,10 +81,19 @@ Q_SIGNALS:
     void signal_valueChanged(int direction);
 
 protected:
+    /// Takes the key as every spin box.
     void keyPressEvent(QKeyEvent *event) override;
+    /// Takes the key as every spin box.
     void keyReleaseEvent(QKeyEvent *event) override;
+    /// Remembers the value, to which the release compares, and steps as every spin box. Writes a
+    /// line to the debug log.
     void mousePressEvent(QMouseEvent *event) override;
+    /// Emits signal_valueChanged() with the direction since the press, where a step between 359 and
+    /// 0 counts as one around the turn, and then ends the press, if the box still exists. Writes a
+    /// line to the debug log.
     void mouseReleaseEvent(QMouseEvent *event) override;
+    /// Loses the focus as usual or, after setFocusOutEvent(false), sets the focus policy to
+    /// Qt::NoFocus instead.
     void focusOutEvent(QFocusEvent *event) override;
 
 private:

@@ -42,7 +42,10 @@ public:
     int getTabMaxWidth() const;
 
 protected:
+    /// The size of the tab at \a index in pixels. Tabs of equal width share that of the bar, and
+    /// the last one takes the rest; all others have QTabBar's size.
     QSize tabSizeHint(int index) const override;
+    /// Places the tabs anew, and repaints them.
     void resizeEvent(QResizeEvent *event) override;
 
 private:

@@ -75,8 +75,11 @@ public Q_SLOTS:
     void on_itemEntered(QTableWidgetItem *item);
 
 protected:
+    /// Shares the new width among the columns and sets the heights of the rows.
     void resizeEvent(QResizeEvent *event) override;
+    /// Gives the table the focus policy Qt::ClickFocus, and presses the cell as every table.
     void mousePressEvent(QMouseEvent *event) override;
+    /// Hides the tool tip that is shown.
     void mouseMoveEvent(QMouseEvent *event) override;
 
 private:

@@ -187,6 +187,7 @@ public Q_SLOTS:
     void on_removeTable(int index);
 
 protected:
+    /// Paints the tabs, and moves the add button beside the last one if it is to follow them.
     void paintEvent(QPaintEvent *event) override;
 
 private Q_SLOTS:

@@ -386,11 +386,23 @@ Q_SIGNALS:
     void signal_notifyChangedPortInfo(StructCabinet info);
 
 protected:
+    /// Paints the button; on the cabinet kinds also the cabinet, its size and, when switched on,
+    /// its count.
     void paintEvent(QPaintEvent *event) override;
+    /// Presses the button. The left button on a cabinet kind that draws its count emits
+    /// signal_notifyChangedPortInfo().
     void mousePressEvent(QMouseEvent *event) override;
+    /// Releases the button, which emits clicked() as on every button; a cabinet kind then does
+    /// setCabinetToAddModel(), if it still exists.
     void mouseReleaseEvent(QMouseEvent *event) override;
+    /// Starts the drag of a sender, or of a CabinetType button that draws its count, once the
+    /// pointer with the left button down is as far away as the button is wide, across and down
+    /// added: from the press on a cabinet kind, and from the top left corner on any other. Returns
+    /// when the drag has ended.
     void mouseMoveEvent(QMouseEvent *event) override;
+    /// Shows the hovered look, and the host's cursor if that is switched on.
     void enterEvent(QEvent *event) override;
+    /// Shows the normal look, and the arrow cursor.
     void leaveEvent(QEvent *event) override;
 
 private:

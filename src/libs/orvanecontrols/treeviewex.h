@@ -47,6 +47,8 @@ public:
     void setStrContentStyle(const QString &style);
 
 protected:
+    /// Takes in new rows. Their layout is put off until the tree paints, so that many rows with
+    /// widgets cost no more than their number.
     void rowsInserted(const QModelIndex &parent, int start, int end) override;
 
 private Q_SLOTS:

@@ -73,7 +73,9 @@ public Q_SLOTS:
     void on_dropDownClicked();
 
 protected:
+    /// Hides the popup when the focus goes elsewhere than to a widget in it.
     void focusOutEvent(QFocusEvent *event) override;
+    /// Hides the popup when its window is no longer the active one.
     void changeEvent(QEvent *event) override;
 
 private:

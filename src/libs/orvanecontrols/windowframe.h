@@ -138,11 +138,18 @@ public Q_SLOTS:
 protected:
     /// Accepts a null event, which slot_close() passes.
     void closeEvent(QCloseEvent *event) override;
+    /// Does nothing.
     void enterEvent(QEvent *event) override;
+    /// Does nothing of its own.
     void leaveEvent(QEvent *event) override;
+    /// Does nothing: rebuildUI() fits the title.
     void resizeEvent(QResizeEvent *event) override;
+    /// Starts a drag with the left button, of the frame if the press lies in the title.
     void mousePressEvent(QMouseEvent *event) override;
+    /// Shows the cursor of the drag region under the pointer or, while the frame is dragged by its
+    /// title, the rubber band where it would come to.
     void mouseMoveEvent(QMouseEvent *event) override;
+    /// Moves the frame to where it was dragged by its title, and hides the rubber band.
     void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:

@@ -86,6 +86,7 @@ Q_SIGNALS:
     void signal_mouseReleaseIntitle(QPoint);
 
 protected:
+    /// Emits signal_mouseDoubleClickIntitle(), whatever the button.
     void mouseDoubleClickEvent(QMouseEvent *event) override;
 
 private:
