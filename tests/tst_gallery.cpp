@@ -193,7 +193,7 @@ private Q_SLOTS:
         const Outcome outcome = runGallery(arguments);
         QCOMPARE(outcome.exitStatus, 2);
         QCOMPARE(outcome.output, QByteArray());
-        QVERIFY2(outcome.errors.startsWith("gallery: "), outcome.errors);
+        QVERIFY2(outcome.errors.startsWith("orvane-gallery: "), outcome.errors);
         QCOMPARE(outcome.errors.count('\n'), 1);
         QVERIFY(outcome.errors.endsWith('\n'));
         QVERIFY2(outcome.errors.contains(named), outcome.errors);
@@ -203,7 +203,7 @@ private Q_SLOTS:
     {
         const Outcome version = runGallery({"--version"});
         QCOMPARE(version.exitStatus, 0);
-        QVERIFY2(QRegularExpression("^gallery \\d+\\.\\d+\\.\\d+\n$")
+        QVERIFY2(QRegularExpression("^orvane-gallery \\d+\\.\\d+\\.\\d+\n$")
                      .match(QString::fromUtf8(version.output))
                      .hasMatch(),
                  version.output);

@@ -1,4 +1,5 @@
-// The smallest host: one window with a check box, then the end.
+// The smallest host: a check box and a label, included in either way, then the end.
+#include "labelex.h"
 #include <orvanecontrols/checkboxex.h>
 
 #include <QApplication>
@@ -12,6 +13,9 @@ int main(int argc, char **argv)
     box.setText("Mirror the wall");
     box.setFontColor(QColor(210, 210, 210));
     box.show();
+    LabelEx label(nullptr);
+    label.setText("Wall");
+    label.show();
     QTimer::singleShot(0, &application, &QApplication::quit);
     application.exec();
     const bool imagesAreThere =

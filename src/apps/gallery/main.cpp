@@ -24,7 +24,7 @@ struct Request {
 
 Request fail(const QString &reason)
 {
-    std::fprintf(stderr, "gallery: %s\n", qPrintable(reason));
+    std::fprintf(stderr, "orvane-gallery: %s\n", qPrintable(reason));
     return {Request::Done, usageError, {}, {}};
 }
 
@@ -32,7 +32,7 @@ Request fail(const QString &reason)
 Request readCommandLine(int argc, char **argv)
 {
     QCoreApplication application(argc, argv);
-    QCoreApplication::setApplicationName("gallery");
+    QCoreApplication::setApplicationName("orvane-gallery");
     QCoreApplication::setApplicationVersion(GALLERY_VERSION);
 
     QCommandLineParser parser;
@@ -58,7 +58,7 @@ Request readCommandLine(int argc, char **argv)
         return {};
     }
     if (parser.isSet(versionOption)) {
-        std::printf("gallery %s\n", GALLERY_VERSION);
+        std::printf("orvane-gallery %s\n", GALLERY_VERSION);
         return {};
     }
     if (parser.isSet(listOption)) {
@@ -101,7 +101,7 @@ int main(int argc, char **argv)
 
     hostprogram::prepare(request.kind == Request::Render);
     QApplication application(argc, argv);
-    QApplication::setApplicationName("gallery");
+    QApplication::setApplicationName("orvane-gallery");
     QApplication::setApplicationDisplayName("OrvaneControls Gallery");
     QApplication::setApplicationVersion(GALLERY_VERSION);
     hostprogram::dress();
