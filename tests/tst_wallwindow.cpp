@@ -371,7 +371,7 @@ private Q_SLOTS:
         hostprogram::dress();
     }
 
-    // A whole session
+    // From the beginning to the end
 
     void demoIsBuiltOnSavedAndReopened()
     {
