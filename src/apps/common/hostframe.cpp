@@ -123,11 +123,12 @@ bool HostFrame::mayClose()
 void HostFrame::childEvent(QChildEvent *event)
 {
     WindowFrame::childEvent(event);
+    if (!event->polished()) // a child that is leaving may be half destroyed
+        return;
     // The frame's cursor is the one of the edge that the pointer came over; the content has none of
     // its own and would go on showing it.
     auto *child = qobject_cast<QWidget *>(event->child());
-    if (event->polished() && child && child != GetTitleWidget()
-        && !child->testAttribute(Qt::WA_SetCursor))
+    if (child && child != GetTitleWidget() && !child->testAttribute(Qt::WA_SetCursor))
         child->setCursor(Qt::ArrowCursor);
 }
 
