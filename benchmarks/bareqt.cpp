@@ -235,6 +235,10 @@ QWidget *Row::newStrip()
     m_scrollArea->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_scrollArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     areaGrid->addWidget(m_scrollArea, 0, 0);
+    auto *holder = new QWidget; // of the strip's form; the cabinets take its place
+    holder->setGeometry(0, 0, 138, 69);
+    withoutGaps(new QGridLayout(holder));
+    m_scrollArea->setWidget(holder);
     middleLine->addWidget(areaFrame);
     middleGrid->addLayout(middleLine, 0, 0);
     line->addWidget(middle);

@@ -5,9 +5,11 @@
 #include "drawer.h"
 #include "draweritem.h"
 #include "draweritemcontent.h"
+#include "lineeditex.h"
 #include "rowlineitem.h"
 #include "sametree.h"
 #include "sidebyside.h"
+#include "stylesheetbatch.h"
 #include "toolbuttonex.h"
 
 #include <QApplication>
@@ -468,6 +470,38 @@ static void addDrawerItemsAfter(benchmark::State &state)
     });
 }
 BENCHMARK(addDrawerItemsAfter)->Arg(presentCount / 8)->Iterations(fewPairs)->UseManualTime();
+
+// Twenty setters beside one that applies its sheet: the reference is the library itself.
+
+static void setTwentyColors(benchmark::State &state)
+{
+    const bool isBatch = state.range(0) != 0;
+    LineEditEx edit;
+    edit.show();
+    int color = 0;
+    const auto setColors = [&](int count) {
+        for (int i = 0; i < count; ++i) {
+            color = color % 0xffffff + 1;
+            edit.setBackgroundColor(QColor(QRgb(color)));
+        }
+    };
+    const auto measured = [&](int count, bool isOneBatch) {
+        const Stopwatch stopwatch;
+        {
+            const StyleSheetBatch batch(isOneBatch ? &edit : nullptr);
+            setColors(count);
+        }
+        return stopwatch.seconds();
+    };
+    runSideBySide(
+        state, [&] { return measured(1, false); }, [&] { return measured(20, isBatch); });
+}
+BENCHMARK(setTwentyColors)
+    ->ArgName("batch")
+    ->Arg(0)
+    ->Arg(1)
+    ->Iterations(10 * manyPairs)
+    ->UseManualTime();
 
 int main(int argc, char **argv)
 {

@@ -23,6 +23,7 @@ LIBRARY = Path(__file__).resolve().parents[1] / "src/libs/orvanecontrols"
 # Records that no page of the gallery shows alone, and the class whose picture shows them.
 SHOWN_BY = {
     "BackUpParam": "TableWidgetCustom",
+    "StyleSheetBatch": "LineEditEx",
     "WidgetInfo": "WidgetControllBoard",
 }
 

@@ -5,6 +5,7 @@
 
 #include <QLabel>
 #include <QListWidget>
+#include <QPushButton>
 #include <QStackedWidget>
 #include <QStyle>
 #include <QTabBar>
@@ -85,6 +86,61 @@ private Q_SLOTS:
         label->ensurePolished();
         QVERIFY(pointer::showAndWait(&container));
         QCOMPARE(pointer::colorAt(label, QPoint(20, 20)), QColor(0, 255, 0));
+    }
+
+    // Whose sheet no child reads goes by Qt's own ways.
+    void sheetOfAButtonReplacedBeforeTheFirstShowIsPainted()
+    {
+        QWidget window;
+        orvane::applyStyleSheet(&window, "QWidget{background:#ffffff;}");
+        QPushButton button(&window);
+        button.setFixedSize(40, 40);
+        const QString sheet = QStringLiteral("QPushButton{background:%1;border:none;}");
+        orvane::applyStyleSheet(&button, sheet.arg("#ff0000"));
+        button.style()->styleHint(QStyle::SH_EtchDisabledText, nullptr, &button);
+        orvane::applyStyleSheet(&button, sheet.arg("#00ff00"));
+        QVERIFY(pointer::showAndWait(&window));
+        QCOMPARE(pointer::colorAt(&button, QPoint(20, 20)), QColor(0, 255, 0));
+        orvane::applyStyleSheet(&button, sheet.arg("#0000ff"));
+        QCOMPARE(pointer::colorAt(&button, QPoint(20, 20)), QColor(0, 0, 255));
+    }
+
+    void sheetOfTheHostsIsReplacedBeforeTheFirstShow()
+    {
+        QWidget container;
+        const QString sheet = QStringLiteral("QLabel{background:%1;}");
+        container.setStyleSheet(sheet.arg("#ff0000"));
+        auto *label = new QLabel(&container);
+        label->setFixedSize(40, 40);
+        label->style()->styleHint(QStyle::SH_EtchDisabledText, nullptr, label);
+        orvane::applyStyleSheet(&container, sheet.arg("#00ff00"));
+        QVERIFY(pointer::showAndWait(&container));
+        QCOMPARE(pointer::colorAt(label, QPoint(20, 20)), QColor(0, 255, 0));
+    }
+
+    void sheetIsForgottenWithItsWidgetAfterTheSecondOneToo()
+    {
+        alignas(QWidget) unsigned char storage[sizeof(QWidget)];
+        auto build = [&storage](const char *color) {
+            auto *container = new (storage) QWidget;
+            orvane::applyStyleSheet(container, "QLabel{background:#ffffff;}");
+            orvane::applyStyleSheet(container, QStringLiteral("QLabel{background:%1;}").arg(color));
+            auto *label = new QLabel(container);
+            label->setFixedSize(40, 40);
+            label->style()->styleHint(QStyle::SH_EtchDisabledText, nullptr, label);
+            return container;
+        };
+        QWidget other; // as long as any sheet is in force, Qt keeps what it has parsed
+        orvane::applyStyleSheet(&other, "QWidget{color:#ff0000;}");
+        build("#ff0000")->~QWidget();
+
+        auto *second = new (storage) QWidget;
+        second->setStyleSheet("QLabel{background:#00ff00;}");
+        auto *label = new QLabel(second);
+        label->setFixedSize(40, 40);
+        QVERIFY(pointer::showAndWait(second));
+        QCOMPARE(pointer::colorAt(label, QPoint(20, 20)), QColor(0, 255, 0));
+        second->~QWidget();
     }
 
     // Lists and tab bars place their items before they are shown, and would keep to the first

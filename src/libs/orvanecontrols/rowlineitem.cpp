@@ -21,9 +21,9 @@ constexpr int portButtonSide = 30;
 constexpr int stripWidth = 180;
 constexpr int cabinetSide = 69;
 
-void applyStripStyle(QWidget *strip)
+QString stripSheet()
 {
-    orvane::applyStyleSheet(strip, QStringLiteral("background:rgb(69,69,69);"));
+    return QStringLiteral("background:rgb(69,69,69);");
 }
 
 } // namespace
@@ -51,9 +51,8 @@ RowLineItem::RowLineItem(QWidget *parent)
     m_portButton->setFixedSize(portButtonSide, portButtonSide);
     row->addWidget(m_portButton);
 
-    m_cabinetStrip = new WidgetWithScrollEx(this);
+    m_cabinetStrip = new WidgetWithScrollEx(stripSheet(), this);
     m_cabinetStrip->setFixedSize(stripWidth, rowHeight);
-    applyStripStyle(m_cabinetStrip);
     m_contentWidget = new QWidget;
     row->addWidget(m_cabinetStrip);
 
@@ -113,7 +112,7 @@ void RowLineItem::AddLineItem(StructCabinet info)
 void RowLineItem::addScrollWidget()
 {
     m_cabinetStrip->addWidget(m_contentWidget);
-    applyStripStyle(m_cabinetStrip);
+    orvane::applyStyleSheet(m_cabinetStrip, stripSheet());
     m_cabinetStrip->show();
 }
 

@@ -15,13 +15,23 @@ constexpr int windowWidth = 138;
 constexpr int windowHeight = 69;
 constexpr int defaultStep = 74;
 
+QString ownSheet()
+{
+    return QStringLiteral("#WidgetWithScrollEx{border:none; background-color:RGB(69, 69, 69);}");
+}
+
 } // namespace
 
 WidgetWithScrollEx::WidgetWithScrollEx(QWidget *parent)
+    : WidgetWithScrollEx(ownSheet(), parent)
+{
+}
+
+WidgetWithScrollEx::WidgetWithScrollEx(const QString &sheet, QWidget *parent)
     : QFrame(parent)
     , m_ui(std::make_unique<Ui::WidgetWithScrollEx>())
 {
-    initStyle(); // before there are children to restyle
+    orvane::applyStyleSheet(this, sheet); // before there are children to restyle
     m_ui->setupUi(this);
     createScrollButton();
     initControls();
@@ -69,9 +79,7 @@ void WidgetWithScrollEx::initControls()
 
 void WidgetWithScrollEx::initStyle()
 {
-    orvane::applyStyleSheet(
-        this,
-        QStringLiteral("#WidgetWithScrollEx{border:none; background-color:RGB(69, 69, 69);}"));
+    orvane::applyStyleSheet(this, ownSheet());
 }
 
 void WidgetWithScrollEx::addWidget(QWidget *w)

@@ -69,6 +69,10 @@ public Q_SLOTS:
     void on_rightClicked();
 
 private:
+    friend class RowLineItem;
+    /// A strip that begins with \a sheet: a row's strip never shows the one of its own.
+    WidgetWithScrollEx(const QString &sheet, QWidget *parent);
+
     std::unique_ptr<Ui::WidgetWithScrollEx> m_ui;
     QToolButton *m_leftButton = nullptr;
     QToolButton *m_rightButton = nullptr;

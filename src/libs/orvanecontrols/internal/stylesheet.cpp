@@ -1,12 +1,13 @@
 #include "stylesheet.h"
 
+#include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QColor>
 #include <QCoreApplication>
 #include <QEvent>
+#include <QLabel>
 #include <QStyle>
 #include <QTabBar>
-#include <QWidget>
 
 #include <algorithm>
 
@@ -22,6 +23,21 @@ bool isStyledEarly(const QWidget *widget)
 {
     return widget->testAttribute(Qt::WA_WState_Polished)
         || qobject_cast<const QAbstractItemView *>(widget) || qobject_cast<const QTabBar *>(widget);
+}
+
+/// Whether nobody but \a widget reads its sheet: what Qt has kept of it, it drops at the first
+/// show.
+bool isAlone(const QWidget *widget)
+{
+    return widget->children().isEmpty()
+        && (qobject_cast<const QAbstractButton *>(widget) || qobject_cast<const QLabel *>(widget));
+}
+
+/// Eldest first.
+std::vector<HeldSheets *> &allHeldSheets()
+{
+    static std::vector<HeldSheets *> all;
+    return all;
 }
 
 void restyleEarlyOnes(QWidget *widget)
@@ -44,7 +60,13 @@ QString colorText(const QColor &color)
 {
     if (!color.isValid())
         return QStringLiteral("#000000");
-    return color.name(color.alpha() == 255 ? QColor::HexRgb : QColor::HexArgb);
+    // As QColor::name() writes it, without its detours: sheets are composed of many colours.
+    constexpr char digits[] = "0123456789abcdef";
+    QString text(color.alpha() == 255 ? 7 : 9, '#');
+    QRgb rest = color.rgba();
+    for (int i = text.size() - 1; i > 0; --i, rest >>= 4)
+        text[i] = QLatin1Char(digits[rest & 0xf]);
+    return text;
 }
 
 QString fontColorFragment(const QColor &color)
@@ -54,22 +76,72 @@ QString fontColorFragment(const QColor &color)
 
 void applyStyleSheet(QWidget *widget, const QString &sheet)
 {
-    if (widget->styleSheet() == sheet)
+    if (HeldSheets *held = HeldSheets::over(widget)) {
+        held->keep(widget, sheet);
         return;
-    const bool hadSheet = widget->style()->inherits("QStyleSheetStyle"); // its own or a parent's
-    const bool isLate = hadSheet && !widget->testAttribute(Qt::WA_WState_Polished);
+    }
+    const QString earlier = widget->styleSheet();
+    if (earlier == sheet)
+        return;
+    const bool hadStyle = widget->style()->inherits("QStyleSheetStyle"); // its own or a parent's
+    const bool hasAsked = hadStyle && widget->testAttribute(Qt::WA_StyleSheet);
+    const bool isLate = hadStyle && !widget->testAttribute(Qt::WA_WState_Polished);
     widget->setStyleSheet(sheet);
+    if (isAlone(widget))
+        return;
 
     // Qt reads a later sheet, and gives it to the children, only if the widget was made ready for
     // showing: until then it would go on with the one that it has read, and a child that was made
     // ready meanwhile would keep to that one.
-    if (isLate)
+    if (isLate && (hasAsked || !earlier.isEmpty())) {
+        widget->setAttribute(Qt::WA_StyleSheet);
         widget->style()->unpolish(widget); // forgets what was read
+    }
     // Qt keeps parsed sheets by widget address, and forgets one before the first show, or when the
-    // widget dies, only if that widget has asked the style something itself. So the widget asks.
-    widget->style()->styleHint(QStyle::SH_EtchDisabledText, nullptr, widget);
+    // widget dies, only if that widget has asked the style something itself. So the widget asks,
+    // once: how Qt learns of its death outlasts the forgetting.
+    widget->setAttribute(Qt::WA_StyleSheet, hasAsked);
+    if (!hasAsked)
+        widget->style()->styleHint(QStyle::SH_EtchDisabledText, nullptr, widget);
     if (isLate)
         restyleEarlyOnes(widget);
+}
+
+HeldSheets::HeldSheets(const QWidget *root)
+    : m_root(root)
+{
+    allHeldSheets().push_back(this);
+}
+
+HeldSheets::~HeldSheets()
+{
+    std::vector<HeldSheets *> &all = allHeldSheets();
+    all.erase(std::find(all.begin(), all.end(), this));
+    // Younger ones take over what they cover, too.
+    for (const Held &each : m_held) {
+        if (each.widget)
+            applyStyleSheet(each.widget, each.sheet);
+    }
+}
+
+HeldSheets *HeldSheets::over(const QWidget *widget)
+{
+    for (HeldSheets *held : allHeldSheets()) {
+        if (held->m_root == widget || (held->m_root && held->m_root->isAncestorOf(widget)))
+            return held;
+    }
+    return nullptr;
+}
+
+void HeldSheets::keep(QWidget *widget, const QString &sheet)
+{
+    const auto place = m_places.constFind(widget);
+    if (place != m_places.constEnd() && m_held[*place].widget) {
+        m_held[*place].sheet = sheet;
+        return;
+    }
+    m_places.insert(widget, m_held.size());
+    m_held.push_back({widget, sheet});
 }
 
 } // namespace orvane
