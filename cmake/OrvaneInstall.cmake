@@ -1,6 +1,6 @@
 # What cmake --install puts where, by component: Runtime is the shared library, Development what a
-# host is built with, Tools the programs, Designer the Qt Designer plugin. Every installed file finds
-# the others from its own place, so an installed tree can be moved.
+# host is built with, Tools the programs, Designer the Qt Designer plugin. Every installed file
+# finds the others from its own place, so an installed tree can be moved.
 
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)

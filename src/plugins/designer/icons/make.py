@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Renders the icons of Qt Designer's widget box, and writes the resource collection that names them.
+"""Renders the icons of Qt Designer's widget box, and writes the collection that names them.
 
     make.py          write icons.qrc, and each icon at 22, 32 and 44 pixels
     make.py --check  compare the committed files with a fresh rendering
