@@ -52,11 +52,12 @@ QString LibraryWidget::whatsThis() const
     QString text = QStringLiteral("<h3>%1</h3><p>%2.</p>").arg(name(), m_row.purpose);
     if (!m_row.filling.isEmpty())
         text += QStringLiteral("<p>%1.</p>").arg(m_row.filling);
-    if (!m_row.builtAs.isEmpty())
+    if (!m_row.builtAs.isEmpty()) {
         text += QStringLiteral("<p>Forms are shown with <code>%1</code>. Code made by uic passes "
                                "the parent alone: promote the widget to a class of your own whose "
                                "constructor takes no more.</p>")
                     .arg(m_row.builtAs.toHtmlEscaped());
+    }
     return text;
 }
 

@@ -115,9 +115,9 @@ void addBasicControls(QVector<WidgetRow> &rows)
         .content = text("Button");
     group.add<SpinBoxEx>({90, 26}, "A spin box for values that wrap between 359 and 0");
     group.add<DoubleSpinBoxEx>({90, 26}, "A spin box for numbers with decimals");
-    group.add<LineEditEx>({140, 26}, "A line edit that can warn of characters file names lack",
-                          "Another look is a matter of its constructor, the warning of "
-                          "a setter");
+    group.add<LineEditEx>({140, 26},
+                          "A line edit that can warn of characters not fit for file names",
+                          "The underlined look is a matter of its constructor");
     group.add<SliderEx>({160, 24}, "A slider that leaves the mouse wheel alone",
                         "A vertical one needs a constructor of its own",
                         BUILT_AS(SliderEx(parent, Qt::Horizontal)));
