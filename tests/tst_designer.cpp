@@ -417,7 +417,9 @@ private Q_SLOTS:
     void saysHowItIsBuilt()
     {
         QFETCH(Expected, expected);
-        const QString whatsThis = description(expected.name)->whatsThis();
+        const Description *widget = description(expected.name);
+        QVERIFY(widget);
+        const QString whatsThis = widget->whatsThis();
         const QString guide = readFile(DESIGNER_GUIDE);
         QVERIFY(guide.contains("`" + expected.name + "`"));
         if (expected.builtAs.isEmpty()) {
@@ -459,10 +461,11 @@ private Q_SLOTS:
     void formNamesClassBaseAndSize()
     {
         QFETCH(Expected, expected);
+        const Description *described = description(expected.name);
+        QVERIFY(described);
         QDomDocument document;
         QString error;
-        QVERIFY2(document.setContent(description(expected.name)->domXml(), &error),
-                 qPrintable(error));
+        QVERIFY2(document.setContent(described->domXml(), &error), qPrintable(error));
         const QDomElement ui = document.documentElement();
         QCOMPARE(ui.tagName(), QString("ui"));
         const QDomElement widget = ui.firstChildElement("widget");
@@ -484,6 +487,8 @@ private Q_SLOTS:
     void formLoaderBuildsIt()
     {
         QFETCH(Expected, expected);
+        const Description *described = description(expected.name);
+        QVERIFY(described);
         expectWarningsOf(expected.name);
         QUiLoader loader;
         loader.clearPluginPaths();
@@ -491,7 +496,7 @@ private Q_SLOTS:
         loader.addPluginPath(QFileInfo(DESIGNER_PLUGIN).path());
         QVERIFY(loader.availableWidgets().contains(expected.name));
 
-        QByteArray text = formOf(description(expected.name));
+        QByteArray text = formOf(described);
         QBuffer buffer(&text);
         const std::unique_ptr<QWidget> form(loader.load(&buffer));
         QVERIFY2(form, qPrintable(loader.errorString()));
@@ -533,6 +538,7 @@ private Q_SLOTS:
     {
         QFETCH(Expected, expected);
         Description *factory = description(expected.name);
+        QVERIFY(factory);
         for (int i = 0; i < 4; ++i)
             expectWarningsOf(expected.name);
 
@@ -579,11 +585,13 @@ private Q_SLOTS:
     void designerShowsSavesAndCopiesIt()
     {
         QFETCH(Expected, expected);
+        const Description *described = description(expected.name);
+        QVERIFY(described);
         expectWarningsOf(expected.name);
         expectWarningsOf(expected.name); // the copy's
         QDesignerFormWindowManagerInterface *manager = m_editor->formWindowManager();
         const std::unique_ptr<QDesignerFormWindowInterface> window(manager->createFormWindow());
-        QByteArray text = formOf(description(expected.name));
+        QByteArray text = formOf(described);
         QBuffer buffer(&text);
         QVERIFY(buffer.open(QIODevice::ReadOnly));
         QString error;
