@@ -53,7 +53,7 @@ check_package(orvane-tools
     DEPENDS ${same_library} libc6 libqt5core5a libqt5gui5 libqt5widgets5
     FILES "bin/orvane-(wall|gallery)")
 check_package(liborvanecontrols-designer
-    DEPENDS ${same_library} libc6 libqt5core5a libqt5gui5 libqt5widgets5
+    DEPENDS ${same_library} libc6 libqt5core5a libqt5gui5
     FILES "${LIBDIR}/qt5/plugins/designer/liborvanecontrolsdesigner\\.so")
 file(GLOB unknown ${PACKAGE_DIR}/*.deb)
 list(REMOVE_ITEM unknown ${checked})
