@@ -330,10 +330,12 @@ private:
         }
     }
 
-    /// Starts Qt Designer's own form editor, which finds the plugin as the program does.
+    /// Starts Qt Designer's own form editor, which finds the plugin as the program does. It gets no
+    /// action editor, which Qt leaks a menu of.
     void startEditor()
     {
-        QCoreApplication::addLibraryPath(QFileInfo(DESIGNER_PLUGIN).dir().filePath(".."));
+        // This plugin alone: what else is installed on a machine is no part of the test.
+        QCoreApplication::setLibraryPaths({QDir(QFileInfo(DESIGNER_PLUGIN).path() + "/..").path()});
         QDesignerComponents::initializeResources();
         m_editor = QDesignerComponents::createFormEditor(&m_owner);
         m_editor->setTopLevel(&m_tools);
@@ -343,7 +345,6 @@ private:
         m_editor->setPropertyEditor(QDesignerComponents::createPropertyEditor(m_editor, &m_tools));
         m_editor->setObjectInspector(
             QDesignerComponents::createObjectInspector(m_editor, &m_tools));
-        m_editor->setActionEditor(QDesignerComponents::createActionEditor(m_editor, &m_tools));
         new QDesignerIntegration(m_editor, &m_owner); // the editor knows it by itself
         m_editor->widgetBox()->setFileName(":/qt-project.org/widgetbox/widgetbox.xml");
         m_editor->widgetBox()->load();
