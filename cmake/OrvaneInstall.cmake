@@ -1,6 +1,6 @@
 # What cmake --install puts where, by component: Runtime is the shared library, Development what a
-# host is built with, Tools the programs. Every installed file finds the others from its own place,
-# so an installed tree can be moved.
+# host is built with, Tools the programs, Designer the Qt Designer plugin. Every installed file
+# finds the others from its own place, so an installed tree can be moved.
 
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
@@ -12,6 +12,9 @@ set(ORVANE_INSTALL_PKGCONFIGDIR ${CMAKE_INSTALL_LIBDIR}/pkgconfig CACHE STRING
 # In Qt's own prefix this is where its qmake looks, see qmake -query QT_HOST_DATA.
 set(ORVANE_INSTALL_QMAKEDIR ${CMAKE_INSTALL_LIBDIR}/qt5/mkspecs/features CACHE STRING
     "Where qmake's feature file is installed")
+# In Qt's own prefix this is where Qt Designer looks, see qmake -query QT_INSTALL_PLUGINS.
+set(ORVANE_INSTALL_DESIGNERDIR ${CMAKE_INSTALL_LIBDIR}/qt5/plugins/designer CACHE STRING
+    "Where the Qt Designer plugin is installed")
 
 foreach(folder BINDIR LIBDIR INCLUDEDIR)
     if(IS_ABSOLUTE ${CMAKE_INSTALL_${folder}})
@@ -86,4 +89,12 @@ if(ORVANE_BUILD_APPS)
     set_target_properties(gallery orvane-wall PROPERTIES INSTALL_RPATH $ORIGIN/${bin_to_lib})
     install(TARGETS gallery orvane-wall
         RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT Tools)
+endif()
+
+# The Qt Designer plugin
+if(ORVANE_BUILD_DESIGNER)
+    orvane_way(designer_to_lib ${ORVANE_INSTALL_DESIGNERDIR} ${CMAKE_INSTALL_LIBDIR})
+    set_target_properties(orvanecontrolsdesigner PROPERTIES INSTALL_RPATH $ORIGIN/${designer_to_lib})
+    install(TARGETS orvanecontrolsdesigner
+        LIBRARY DESTINATION ${ORVANE_INSTALL_DESIGNERDIR} COMPONENT Designer)
 endif()

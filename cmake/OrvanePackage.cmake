@@ -56,5 +56,14 @@ its senders; orvane-gallery shows every widget of OrvaneControls in its states."
     # The faces that the programs put in the place of the ones that the sheets name.
     set(CPACK_DEBIAN_TOOLS_PACKAGE_RECOMMENDS "fonts-inter, fonts-noto-cjk")
 endif()
+if(ORVANE_BUILD_DESIGNER)
+    orvane_package(Designer liborvanecontrols-designer libdevel
+        "dark Qt 5 widgets for LED-wall configuration programs - Qt Designer plugin"
+        "Restyled standard controls and, built on them, the panels on which an LED
+wall is laid out. This package shows them in the widget box of Qt Designer, and
+lets programs load forms that hold them."
+        Runtime)
+    set(CPACK_DEBIAN_DESIGNER_PACKAGE_RECOMMENDS "qttools5-dev-tools")
+endif()
 
 include(CPack)

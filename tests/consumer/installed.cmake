@@ -7,7 +7,8 @@
 #   GENERATOR    CMake's generator for them
 #   CXX          the compiler, with its FLAGS
 #   PROGRAMS     whether the programs are installed: ON or OFF
-#   RPATH        whether they find the library by themselves: ON or OFF
+#   DESIGNER     whether the Qt Designer plugin is installed: ON or OFF
+#   RPATH        whether they and the plugin find the library by themselves: ON or OFF
 include(${CMAKE_CURRENT_LIST_DIR}/step.cmake)
 set(source ${CMAKE_CURRENT_LIST_DIR})
 set(lib ${PREFIX}/${LIBDIR})
@@ -82,15 +83,26 @@ step(${QMAKE} -o ${BINARY_DIR}/qmake/Makefile ${source}/host.pro
 step(make -C ${BINARY_DIR}/qmake)
 step(${BINARY_DIR}/qmake/host)
 
-# The programs
+# Programs and plugin
+if(RPATH)
+    unset(ENV{LD_LIBRARY_PATH})
+endif()
 if(PROGRAMS)
-    if(RPATH)
-        unset(ENV{LD_LIBRARY_PATH})
-    endif()
     foreach(program orvane-wall orvane-gallery)
         step(${PREFIX}/bin/${program} --version)
         if(NOT output STREQUAL "${program} ${ORVANE_VERSION}\n")
             message(FATAL_ERROR "${program} tells the version ${output}")
         endif()
     endforeach()
+endif()
+
+# A program that is not linked to the library loads a form by the plugin.
+if(DESIGNER)
+    step(${CMAKE_COMMAND} -S ${source}/formloader -B ${BINARY_DIR}/formloader -G ${GENERATOR}
+        -D CMAKE_CXX_COMPILER=${CXX} -D CMAKE_CXX_FLAGS=${FLAGS})
+    step(${CMAKE_COMMAND} --build ${BINARY_DIR}/formloader)
+    step(${BINARY_DIR}/formloader/formloader ${lib}/qt5/plugins/designer)
+    if(NOT output STREQUAL "CheckBoxEx Mirror the wall\n")
+        message(FATAL_ERROR "the loaded form holds ${output}")
+    endif()
 endif()

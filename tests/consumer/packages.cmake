@@ -52,6 +52,9 @@ check_package(liborvanecontrols-dev
 check_package(orvane-tools
     DEPENDS ${same_library} libc6 libqt5core5a libqt5gui5 libqt5widgets5
     FILES "bin/orvane-(wall|gallery)")
+check_package(liborvanecontrols-designer
+    DEPENDS ${same_library} libc6 libqt5core5a libqt5gui5
+    FILES "${LIBDIR}/qt5/plugins/designer/liborvanecontrolsdesigner\\.so")
 file(GLOB unknown ${PACKAGE_DIR}/*.deb)
 list(REMOVE_ITEM unknown ${checked})
 if(unknown)
@@ -69,5 +72,6 @@ set(PREFIX ${root}/usr)
 set(PLACES ${BUILD_DIR} ${SCRATCH_DIR})
 set(BINARY_DIR ${SCRATCH_DIR}/build)
 set(PROGRAMS ON)
+set(DESIGNER ON)
 set(RPATH OFF)
 include(${CMAKE_CURRENT_LIST_DIR}/installed.cmake)
