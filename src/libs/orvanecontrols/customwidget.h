@@ -1,5 +1,6 @@
-#ifndef CUSTOMWIDGET_H
-#define CUSTOMWIDGET_H
+// Not CUSTOMWIDGET_H: a header of Qt's user-interface plugins has that guard.
+#ifndef ORVANE_CUSTOMWIDGET_H
+#define ORVANE_CUSTOMWIDGET_H
 
 #include "orvanecontrolsglobal.h"
 
@@ -30,4 +31,4 @@ private:
     QToolButton *m_button = nullptr;
 };
 
-#endif // CUSTOMWIDGET_H
+#endif // ORVANE_CUSTOMWIDGET_H
