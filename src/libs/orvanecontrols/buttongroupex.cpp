@@ -1,10 +1,13 @@
 #include "buttongroupex.h"
 
+#include "internal/mirroring.h"
+#include "internal/spokenname.h"
 #include "internal/stepscroll.h"
 #include "internal/stylesheet.h"
 #include "toolbuttonex.h"
 #include "ui_buttongroupex.h"
 
+#include <QEvent>
 #include <QLabel>
 #include <QScrollBar>
 
@@ -52,6 +55,7 @@ ButtonGroupEx::ButtonGroupEx(QWidget *parent)
     , m_ui(std::make_unique<Ui::ButtonGroupEx>())
 {
     m_ui->setupUi(this);
+    orvane::keepFromLeftToRight(m_ui->mainLayout);
     createScrollBtn();
     createAddCabnicateBtn();
     createAddRowCabnicateBtn();
@@ -71,8 +75,10 @@ ButtonGroupEx::~ButtonGroupEx() = default;
 void ButtonGroupEx::createScrollBtn()
 {
     m_leftButton = createHostButton(m_ui->leftBtnFrame, "isCabinateWidgetLeftBtn");
+    orvane::speakAs(m_leftButton, tr("Scroll left"));
     connect(m_leftButton, &ToolButtonEx::clicked, this, &ButtonGroupEx::on_leftClicked);
     m_rightButton = createHostButton(m_ui->rightBtnFrame, "isCabinateWidgetRightBtn");
+    orvane::speakAs(m_rightButton, tr("Scroll right"));
     connect(m_rightButton, &ToolButtonEx::clicked, this, &ButtonGroupEx::on_rightClicked);
     m_leftPlaceholder = createPlaceholder(m_ui->leftBtnFrame);
     m_rightPlaceholder = createPlaceholder(m_ui->rightBtnFrame);
@@ -82,6 +88,7 @@ void ButtonGroupEx::createScrollBtn()
 void ButtonGroupEx::createAddCabnicateBtn()
 {
     m_addButton = createButton(m_ui->addCabniateBtnFrame, AddCabinetType);
+    orvane::speakAs(m_addButton, tr("Add cabinets"));
     connect(m_addButton, &ToolButtonEx::clicked, this, &ButtonGroupEx::on_addCabnicate);
 }
 
@@ -89,6 +96,7 @@ void ButtonGroupEx::createAddRowCabnicateBtn()
 {
     orvane::applyStyleSheet(m_ui->addRowCabniateBtnFrame, QStringLiteral("border:none;"));
     m_addRowButton = createHostButton(m_ui->addRowCabniateBtnFrame, "isAddRowCabnicateBtn");
+    orvane::speakAs(m_addRowButton, tr("Add row of cabinets"));
     connect(m_addRowButton, &ToolButtonEx::clicked, this, &ButtonGroupEx::slot_addRowCabnicate);
 }
 
@@ -210,6 +218,13 @@ void ButtonGroupEx::slot_addRowCabnicate()
     Q_EMIT signal_addRowCabinetsClicked();
     if (self)
         notifyIfContentIsWide();
+}
+
+void ButtonGroupEx::changeEvent(QEvent *event)
+{
+    QFrame::changeEvent(event);
+    if (event->type() == QEvent::LayoutDirectionChange)
+        orvane::keepFromLeftToRight(m_ui->mainLayout);
 }
 
 void ButtonGroupEx::setLeftArrowVisible(bool visible)

@@ -1,9 +1,12 @@
 #include "widgetwithscrollex.h"
 
+#include "internal/mirroring.h"
+#include "internal/spokenname.h"
 #include "internal/stepscroll.h"
 #include "internal/stylesheet.h"
 #include "ui_widgetwithscrollex.h"
 
+#include <QEvent>
 #include <QLabel>
 #include <QScrollBar>
 #include <QToolButton>
@@ -23,6 +26,7 @@ WidgetWithScrollEx::WidgetWithScrollEx(QWidget *parent)
 {
     initStyle(); // before there are children to restyle
     m_ui->setupUi(this);
+    orvane::keepFromLeftToRight(m_ui->mainLayout);
     createScrollButton();
     initControls();
 }
@@ -33,6 +37,7 @@ void WidgetWithScrollEx::createScrollButton()
 {
     m_leftButton = new QToolButton(m_ui->leftBtnFrame);
     orvane::fillParent(m_leftButton);
+    orvane::speakAs(m_leftButton, tr("Scroll left"));
     connect(m_leftButton, &QToolButton::clicked, this, &WidgetWithScrollEx::on_leftClicked);
     orvane::applyStyleSheet(
         m_leftButton,
@@ -43,6 +48,7 @@ void WidgetWithScrollEx::createScrollButton()
 
     m_rightButton = new QToolButton(m_ui->rightBtnFrame);
     orvane::fillParent(m_rightButton);
+    orvane::speakAs(m_rightButton, tr("Scroll right"));
     connect(m_rightButton, &QToolButton::clicked, this, &WidgetWithScrollEx::on_rightClicked);
     orvane::applyStyleSheet(
         m_rightButton,
@@ -132,4 +138,11 @@ void WidgetWithScrollEx::on_rightClicked()
     if (orvane::stepRight(m_ui->scrollArea->horizontalScrollBar(), m_position, m_rangeMaximum,
                           m_scrollSingleStepValue))
         setRightButtonVisible(false);
+}
+
+void WidgetWithScrollEx::changeEvent(QEvent *event)
+{
+    QFrame::changeEvent(event);
+    if (event->type() == QEvent::LayoutDirectionChange)
+        orvane::keepFromLeftToRight(m_ui->mainLayout);
 }
