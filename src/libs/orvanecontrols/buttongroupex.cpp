@@ -4,6 +4,7 @@
 #include "internal/spokenname.h"
 #include "internal/stepscroll.h"
 #include "internal/stylesheet.h"
+#include "internal/taborder.h"
 #include "toolbuttonex.h"
 #include "ui_buttongroupex.h"
 
@@ -59,6 +60,7 @@ ButtonGroupEx::ButtonGroupEx(QWidget *parent)
     createScrollBtn();
     createAddCabnicateBtn();
     createAddRowCabnicateBtn();
+    orvane::tabInOrder({m_leftButton, m_addButton, m_addRowButton, m_rightButton});
     const QScrollBar *bar = m_ui->scrollArea->horizontalScrollBar();
     m_position = bar->sliderPosition();
     m_step = scrollStep;
@@ -118,6 +120,7 @@ void ButtonGroupEx::addWidget(QWidget *w)
                             QStringLiteral(".QWidget{background:rgb(62,62,62);}"
                                            ".QWidget:disabled{background:rgb(62,62,62);}"));
     m_ui->scrollArea->setWidget(w);
+    orvane::tabInOrder(QList<QWidget *>{m_addRowButton} + orvane::tabStops(w) << m_rightButton);
     m_contentWidth = w->width();
     layOutScrollArea();
     setScrollBtnIsVisble(isWidthBigThanScrollWidth());

@@ -2,6 +2,7 @@
 
 #include "internal/spokenname.h"
 #include "internal/stylesheet.h"
+#include "internal/taborder.h"
 #include "pushbuttonex.h"
 #include "ui_custommessagebox.h"
 
@@ -168,9 +169,7 @@ void CustomMessageBox::createControls()
     m_cancelButton = makeButton(m_ui->frame_cancel, NoActivatedBtn);
     connect(m_cancelButton, &PushButtonEx::clicked, this,
             &CustomMessageBox::on_handleCancelClicked);
-    // In the order in which they stand.
-    setTabOrder(m_okButton, m_applyButton);
-    setTabOrder(m_applyButton, m_cancelButton);
+    orvane::tabInOrder({m_okButton, m_applyButton, m_cancelButton});
 }
 
 void CustomMessageBox::on_handleOkClicked()

@@ -3,6 +3,7 @@
 #include "definecommondata.h"
 #include "internal/spokenname.h"
 #include "internal/stylesheet.h"
+#include "internal/taborder.h"
 #include "labelex.h"
 #include "scrollbarex.h"
 
@@ -232,6 +233,8 @@ void DrawerItem::addItem(QWidget *w)
         return;
     w->setParent(m_scrollArea);
     m_scrollArea->setWidget(w);
+    // The body may come when there are further items already.
+    orvane::tabInOrder(QList<QWidget *>{m_scrollArea} + orvane::tabStops(w));
 }
 
 QWidget *DrawerItem::getItem()

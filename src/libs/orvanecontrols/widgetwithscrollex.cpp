@@ -4,6 +4,7 @@
 #include "internal/spokenname.h"
 #include "internal/stepscroll.h"
 #include "internal/stylesheet.h"
+#include "internal/taborder.h"
 #include "ui_widgetwithscrollex.h"
 
 #include <QEvent>
@@ -87,6 +88,7 @@ void WidgetWithScrollEx::addWidget(QWidget *w)
     QScrollArea *area = m_ui->scrollArea;
     area->setWidget(w);
     area->setFixedSize(windowWidth, windowHeight);
+    orvane::tabInOrder(QList<QWidget *>{m_leftButton} + orvane::tabStops(w) << m_rightButton);
     if (w->width() > area->width()) {
         setLeftButtonVisible(false);
         setRightButtonVisible(true);

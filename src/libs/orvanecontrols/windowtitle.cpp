@@ -3,6 +3,7 @@
 #include "internal/mirroring.h"
 #include "internal/spokenname.h"
 #include "internal/stylesheet.h"
+#include "internal/taborder.h"
 
 #include <QEvent>
 #include <QHBoxLayout>
@@ -179,9 +180,7 @@ void WindowTitle::buildButtons()
     orvane::speakAs(m_closeButton, tr("Close"));
     orvane::speakAs(m_minimizeButton, tr("Minimise"));
     orvane::speakAs(m_maximizeButton, tr("Maximise"));
-    // From left to right, as they stand.
-    setTabOrder(m_minimizeButton, m_maximizeButton);
-    setTabOrder(m_maximizeButton, m_closeButton);
+    orvane::tabInOrder({m_minimizeButton, m_maximizeButton, m_closeButton});
 
     connect(m_closeButton, &QPushButton::clicked, this, &WindowTitle::signal_closeMainForm);
     connect(m_minimizeButton, &QPushButton::clicked, this, &WindowTitle::signal_minimizeMainForm);
