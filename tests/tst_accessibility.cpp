@@ -52,9 +52,6 @@ QStringList shownTexts(QWidget *root)
     QList<QWidget *> widgets = root->findChildren<QWidget *>();
     widgets.prepend(root);
     for (const QWidget *widget : qAsConst(widgets)) {
-        // Qt's own parts have texts of Qt's.
-        if (widget->inherits("CloseButton") || widget->objectName().startsWith("qt_"))
-            continue;
         texts << widget->toolTip() << widget->statusTip() << widget->whatsThis()
               << widget->windowTitle();
         if (const auto *label = qobject_cast<const QLabel *>(widget))
@@ -485,10 +482,10 @@ private Q_SLOTS:
         last->setBOnline(true);
         drawer.addDrawerItem(last);
         QVERIFY(showWithFocus(&drawer, buttonNamed(item, "Collapse")));
-        QCOMPARE(tabStops(&drawer),
-                 (QStringList{"Collapse", "Select all", "Settings", "QScrollArea", "Port 1",
-                              "101x201", "102x202", "103x203", "Scroll right", "Port 2", "Expand",
-                              "Settings", "QScrollArea"}));
+        QCOMPARE(
+            tabStops(&drawer),
+            (QStringList{"Collapse", "Select all", "Settings", "QScrollArea", "Port 1", "101x201",
+                         "102x202", "103x203", "Scroll right", "Port 2", "Expand", "Settings"}));
     }
 
     void tabKeyGoesThroughTheMessageBox()
@@ -574,8 +571,10 @@ private Q_SLOTS:
         QTest::keyClicks(edit, QString("1.2"));
         QCOMPARE(edit->text(), QString("12"));
         edit->clear();
-        QTest::keyClicks(edit, QString(QChar(0x0669)) + "5");
-        QCOMPARE(edit->text(), QString("5"));
+        const QString arabicNine = QChar(0x0669);
+        QKeyEvent arabic(QEvent::KeyPress, Qt::Key_9, Qt::NoModifier, arabicNine);
+        QCoreApplication::sendEvent(edit, &arabic);
+        QCOMPARE(edit->text(), QString());
 
         DoubleSpinBoxEx exact;
         exact.setRange(0, 100000);

@@ -198,3 +198,11 @@ void NewTableWidget::updateEditorGeometries()
     if (isRightToLeft() && m_isCheckBoxColumnShown && m_headerCheckBox)
         placeMirroredHeaderCheckBox();
 }
+
+bool NewTableWidget::focusNextPrevChild(bool next)
+{
+    // A box that has the focus asks here too, and Qt's table would keep it in its cells for good.
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call)
+    return hasFocus() ? QTableWidget::focusNextPrevChild(next)
+                      : QFrame::focusNextPrevChild(next); // clazy:exclude=skipped-base-method
+}
