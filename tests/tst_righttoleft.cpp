@@ -1,34 +1,16 @@
 #include "support/cabinetrecord.h"
 #include "support/everywidget.h"
 #include "support/pointer.h"
+#include "support/righttoleft.h"
 #include "support/testcase.h"
 #include "support/windowmouse.h"
 
 namespace
 {
 
-/// Lays the whole application out from right to left, as long as it lives.
-class MirroredApplication
-{
-public:
-    MirroredApplication() { QGuiApplication::setLayoutDirection(Qt::RightToLeft); }
-    ~MirroredApplication() { QGuiApplication::setLayoutDirection(Qt::LeftToRight); }
-    Q_DISABLE_COPY_MOVE(MirroredApplication)
-};
-
 QRect placeIn(const QWidget *root, const QWidget *widget)
 {
     return {widget->mapTo(root, QPoint(0, 0)), widget->size()};
-}
-
-QAbstractButton *buttonNamed(const QWidget *widget, const QString &name)
-{
-    const QList<QAbstractButton *> buttons = widget->findChildren<QAbstractButton *>();
-    for (QAbstractButton *button : buttons) {
-        if (button->accessibleName() == name)
-            return button;
-    }
-    return nullptr;
 }
 
 QWidget *wideContent(int width)
@@ -37,19 +19,6 @@ QWidget *wideContent(int width)
     content->resize(width, 40);
     return content;
 }
-
-/// A slider that tells where its handle is painted.
-class HandleSlider : public SliderExMouse
-{
-public:
-    using SliderExMouse::SliderExMouse;
-    QRect handle() const
-    {
-        QStyleOptionSlider option;
-        initStyleOption(&option);
-        return style()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, this);
-    }
-};
 
 /// What is wrong with the places of the buttons that are seen in \a root: each has to stand in its
 /// parent, and on no other.
@@ -328,121 +297,6 @@ private Q_SLOTS:
         QVERIFY(leftOf("toolButton") < leftOf("labelTitle"));
         QVERIFY(leftOf("labelIcon") > leftOf("labelTips"));
         QCOMPARE(misplacedButtons(&box), QStringList());
-    }
-
-    void headerBoxStandsAboveItsColumn_data()
-    {
-        QTest::addColumn<int>("rows");
-        QTest::newRow("no rows") << 0;
-        QTest::newRow("all rows seen") << 2;
-        QTest::newRow("a scroll bar at the left") << 20;
-    }
-    void headerBoxStandsAboveItsColumn()
-    {
-        QFETCH(int, rows);
-        const MirroredApplication application;
-        NewTableWidget table;
-        table.resize(400, 200);
-        table.horizontalHeader()->setMinimumHeight(40);
-        table.setColumnCount(3);
-        table.setRowCount(rows);
-        table.setAddCheckBoxVisible(true);
-        QVERIFY(pointer::showAndWait(&table));
-
-        // The column of 30 pixels is the last one, and the box as far right as it goes.
-        QAbstractButton *header = buttonNamed(&table, "Select all rows");
-        QCOMPARE(header->geometry(), QRect(374, 10, 26, 26));
-        table.resize(500, 200);
-        QCoreApplication::processEvents();
-        QCOMPARE(header->geometry(), QRect(474, 10, 26, 26));
-        if (rows == 0)
-            return;
-        auto *first = qobject_cast<QCheckBox *>(table.cellWidget(0, 0));
-        QVERIFY(placeIn(&table, first).left() >= 470);
-        // The marks of both stand at the right ends, where the eye looks for them.
-        windowmouse::click(header, Qt::LeftButton, QPoint(18, 13));
-        QVERIFY(first->isChecked());
-    }
-
-    void addButtonFollowsTheTabs()
-    {
-        const MirroredApplication application;
-        TableWidgetEx table(nullptr, EditableTable, "Screen");
-        table.resize(500, 200);
-        table.addTable(true);
-        table.addTable(false);
-        table.setBMovedCornerButton(true);
-        QVERIFY(pointer::showAndWait(&table));
-        table.grab();
-        const QAbstractButton *add = buttonNamed(&table, "Add tab");
-        const QTabBar *bar = table.findChild<QTabBar *>();
-        QCOMPARE(bar->geometry().right(), 499);
-        QCOMPARE(add->geometry().right(), bar->geometry().left() - 1);
-        // The first tab, and the close button on it, are at the right.
-        QVERIFY(bar->tabRect(0).left() > bar->tabRect(1).left());
-    }
-
-    void sliderJumpsToThePointer_data()
-    {
-        QTest::addColumn<bool>("isMirrored");
-        QTest::addColumn<bool>("isInverted");
-        QTest::addColumn<int>("value");
-        QTest::newRow("left to right") << false << false << 25;
-        QTest::newRow("right to left") << true << false << 75;
-        QTest::newRow("right to left, turned round") << true << true << 25;
-    }
-    void sliderJumpsToThePointer()
-    {
-        QFETCH(bool, isMirrored);
-        QFETCH(bool, isInverted);
-        QFETCH(int, value);
-        HandleSlider slider(nullptr, Qt::Horizontal);
-        slider.setRange(0, 100);
-        slider.resize(200, 24);
-        slider.setLayoutDirection(isMirrored ? Qt::RightToLeft : Qt::LeftToRight);
-        slider.setInvertedAppearance(isInverted);
-        QVERIFY(pointer::showAndWait(&slider));
-        windowmouse::click(&slider, Qt::LeftButton, QPoint(50, 12));
-        QCOMPARE(slider.value(), value);
-        // The handle, 10 pixels wide, is where the pointer is.
-        const QRect handle = slider.handle();
-        QVERIFY2(qAbs(handle.center().x() - 50) <= 6, qPrintable(QString::number(handle.x())));
-    }
-
-    void verticalSliderJumpsAsEver()
-    {
-        SliderExMouse slider(nullptr, Qt::Vertical);
-        slider.setRange(0, 100);
-        slider.resize(20, 200);
-        slider.setLayoutDirection(Qt::RightToLeft);
-        QVERIFY(pointer::showAndWait(&slider));
-        windowmouse::click(&slider, Qt::LeftButton, QPoint(5, 100));
-        QCOMPARE(slider.value(), 25);
-    }
-
-    void comboBoxPaintsItsPictureAwayFromTheArrow()
-    {
-        const MirroredApplication application;
-        QPixmap picture(20, 20);
-        picture.fill(Qt::red);
-        QTemporaryDir folder;
-        const QString path = folder.filePath("red.png");
-        QVERIFY(picture.save(path));
-        ComboBoxEx box;
-        box.resize(120, 30);
-        box.addImageItem(path, "Red");
-        box.setCurrentIndex(0);
-        QVERIFY(pointer::showAndWait(&box));
-        // 12 pixels from the right end, where it stands from the left one otherwise.
-        QCOMPARE(pointer::colorAt(&box, QPoint(120 - 12 - 10, 15)), QColor(Qt::red));
-        QVERIFY(pointer::colorAt(&box, QPoint(12 + 10, 15)) != QColor(Qt::red));
-
-        QPixmap large(40, 40);
-        large.fill(Qt::green);
-        box.setDefaultPixMap(large);
-        box.setIsChangeImg(true);
-        QCOMPARE(pointer::colorAt(&box, QPoint(110, 10)), QColor(Qt::green));
-        QVERIFY(pointer::colorAt(&box, QPoint(10, 10)) != QColor(Qt::green));
     }
 
     void settingsButtonStaysOffTheOtherButtons_data() { addWaysToMirror(); }
