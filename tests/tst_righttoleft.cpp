@@ -171,6 +171,28 @@ private Q_SLOTS:
         QCOMPARE(label->alignment(), Qt::AlignRight | Qt::AlignVCenter);
     }
 
+    void portGridsBeginAtTheRight_data() { addWaysToMirror(); }
+    void portGridsBeginAtTheRight()
+    {
+        const auto application = mirroredApplication();
+        OfflinePortItemContentFrame grid;
+        grid.addPortItem(16, PortItem);
+        if (!application)
+            mirror(&grid);
+        QVERIFY(pointer::showAndWait(&grid));
+        const QList<OfflinePortItemFrame *> items = grid.lsOfflinePortItems();
+        QVERIFY(items.at(0)->x() > items.at(1)->x());
+        QVERIFY(items.at(4)->x() == items.at(0)->x());
+        QCOMPARE(misplacedButtons(&grid), QStringList());
+
+        OfflinePortItemFrame *pressed = nullptr;
+        connect(&grid, &OfflinePortItemContentFrame::signal_portItemPressed, this,
+                [&pressed](OfflinePortItemFrame *item) { pressed = item; });
+        windowmouse::click(&grid, Qt::LeftButton,
+                           placeIn(&grid, buttonNamed(&grid, "Port 3")).center());
+        QCOMPARE(pressed, items.at(2));
+    }
+
     void drawerItemsAreHitWhereTheyArePainted_data() { addWaysToMirror(); }
     void drawerItemsAreHitWhereTheyArePainted()
     {
