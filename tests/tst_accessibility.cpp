@@ -402,6 +402,9 @@ private Q_SLOTS:
         QVERIFY(buttonNamed(&row, "RowLineItem: Port 3"));
         QVERIFY(buttonNamed(&row, "WidgetWithScrollEx: Scroll left"));
         QVERIFY(buttonNamed(&box, "CustomMessageBox: Close"));
+        // What is shown is no matter of languages.
+        QCOMPARE(shownTexts(&strip), (QStringList{"Frame", "Title"}));
+        QCOMPARE(shownTexts(&box), (QStringList{"MyMessageBox", "Title"}));
     }
 
     void checkAllBoxTellsItsState()

@@ -300,7 +300,9 @@ private Q_SLOTS:
         QCOMPARE(cursor.shape(), Qt::SizeFDiagCursor);
         frame.ReSetCurDragDirect();
         QVERIFY(pointer::showAndWait(&frame));
-        QVERIFY(placeIn(&frame, buttonNamed(&frame, "Close")).left() > 500);
+        const QWidget *close = buttonNamed(&frame, "Close");
+        QVERIFY(close);
+        QVERIFY(placeIn(&frame, close).left() > 500);
     }
 
     void messageBoxMirrorsItsButtons()
