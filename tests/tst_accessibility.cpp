@@ -542,9 +542,6 @@ private Q_SLOTS:
         QCOMPARE(buttonNamed(&item, "Offline")->focusPolicy(), Qt::NoFocus);
         ShapeWidget panel;
         QCOMPARE(buttonsOf(&panel).first()->focusPolicy(), Qt::NoFocus);
-        CustomListWidgetItem row;
-        row.setValidIcon(true);
-        QCOMPARE(buttonNamed(&row, "Not found")->focusPolicy(), Qt::NoFocus);
     }
 
     void numbersAreTheSameInEveryLanguage_data()

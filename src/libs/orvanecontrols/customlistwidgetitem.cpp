@@ -25,7 +25,6 @@ CustomListWidgetItem::CustomListWidgetItem(QWidget *parent)
     m_deleteButton->hide();
     orvane::speakAs(m_deleteButton, tr("Delete"));
 
-    m_iconButton->setFocusPolicy(Qt::NoFocus); // it only shows
     m_iconButton->setFixedSize(20, 20);
     m_iconButton->setContentsMargins(0, 0, 6, 0);
 
