@@ -1,4 +1,5 @@
 #include "support/pointer.h"
+#include "support/righttoleft.h"
 #include "support/testcase.h"
 
 #include <comboboxex.h>
@@ -675,6 +676,31 @@ private Q_SLOTS:
                               "slot_showTooltip(QString)"}));
         QCOMPARE(meta.method(meta.methodOffset() + 1).access(), QMetaMethod::Private);
         QCOMPARE(meta.propertyOffset(), meta.propertyCount());
+    }
+
+    void pictureIsAwayFromTheArrowFromRightToLeft()
+    {
+        const MirroredApplication application;
+        QPixmap picture(20, 20);
+        picture.fill(Qt::red);
+        QTemporaryDir folder;
+        const QString path = folder.filePath("red.png");
+        QVERIFY(picture.save(path));
+        ComboBoxEx box;
+        box.resize(120, 30);
+        box.addImageItem(path, "Red");
+        box.setCurrentIndex(0);
+        QVERIFY(pointer::showAndWait(&box));
+        // 12 pixels from the right end, where it stands from the left one otherwise.
+        QCOMPARE(pointer::colorAt(&box, QPoint(120 - 12 - 10, 15)), QColor(Qt::red));
+        QVERIFY(pointer::colorAt(&box, QPoint(12 + 10, 15)) != QColor(Qt::red));
+
+        QPixmap large(40, 40);
+        large.fill(Qt::green);
+        box.setDefaultPixMap(large);
+        box.setIsChangeImg(true);
+        QCOMPARE(pointer::colorAt(&box, QPoint(110, 10)), QColor(Qt::green));
+        QVERIFY(pointer::colorAt(&box, QPoint(10, 10)) != QColor(Qt::green));
     }
 };
 

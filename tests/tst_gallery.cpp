@@ -154,6 +154,24 @@ private Q_SLOTS:
         QCOMPARE(image, QImage(second.filePath("SpinBoxEx.png")));
     }
 
+    void pagesAreMirroredOnRequest()
+    {
+        QTemporaryDir plain;
+        QTemporaryDir mirrored;
+        const QStringList arguments{"--page", "SliderEx", "--render"};
+        QCOMPARE(runGallery(arguments + QStringList(plain.path())).exitStatus, 0);
+        const Outcome outcome =
+            runGallery(QStringList("--rtl") + arguments + QStringList(mirrored.path()));
+        QCOMPARE(outcome.errors, QByteArray());
+        QCOMPARE(outcome.exitStatus, 0);
+        const QImage image(mirrored.filePath("SliderEx.png"));
+        QVERIFY(!image.isNull());
+        // The page's name stands at the left, or at the right.
+        const QRect left(0, 0, 200, 40);
+        QVERIFY(colorCount(QImage(plain.filePath("SliderEx.png")).copy(left))
+                > colorCount(image.copy(left)));
+    }
+
     void renderTakesOnePageOnly()
     {
         QTemporaryDir directory;
@@ -209,7 +227,7 @@ private Q_SLOTS:
                  version.output);
         const Outcome help = runGallery({"--help"});
         QCOMPARE(help.exitStatus, 0);
-        for (const char *option : {"--list", "--page", "--render", "--version", "--help"})
+        for (const char *option : {"--list", "--page", "--render", "--rtl", "--version", "--help"})
             QVERIFY2(help.output.contains(option), option);
     }
 };

@@ -1,4 +1,5 @@
 #include "support/pointer.h"
+#include "support/righttoleft.h"
 #include "support/sheetimages.h"
 #include "support/testcase.h"
 #include "support/windowmouse.h"
@@ -772,6 +773,40 @@ private Q_SLOTS:
         auto *alone = new NewTableWidget;
         alone->setAddCheckBoxVisible(true);
         delete alone;
+    }
+
+    void headerBoxStandsAboveItsColumnFromRightToLeft_data()
+    {
+        QTest::addColumn<int>("rows");
+        QTest::newRow("no rows") << 0;
+        QTest::newRow("all rows seen") << 2;
+        QTest::newRow("a scroll bar at the left") << 20;
+    }
+    void headerBoxStandsAboveItsColumnFromRightToLeft()
+    {
+        QFETCH(int, rows);
+        const MirroredApplication application;
+        NewTableWidget table;
+        table.resize(400, 200);
+        table.horizontalHeader()->setMinimumHeight(40);
+        table.setColumnCount(3);
+        table.setRowCount(rows);
+        table.setAddCheckBoxVisible(true);
+        QVERIFY(pointer::showAndWait(&table));
+
+        // The column of 30 pixels is the last one, and the box as far right as it goes.
+        QAbstractButton *header = buttonNamed(&table, "Select all rows");
+        QCOMPARE(header->geometry(), QRect(374, 10, 26, 26));
+        table.resize(500, 200);
+        QCoreApplication::processEvents();
+        QCOMPARE(header->geometry(), QRect(474, 10, 26, 26));
+        if (rows == 0)
+            return;
+        auto *first = qobject_cast<QCheckBox *>(table.cellWidget(0, 0));
+        QVERIFY(first->mapTo(&table, QPoint(0, 0)).x() >= 470);
+        // The marks of both stand at the right ends, where the eye looks for them.
+        windowmouse::click(header, Qt::LeftButton, QPoint(18, 13));
+        QVERIFY(first->isChecked());
     }
 };
 

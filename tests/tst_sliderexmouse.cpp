@@ -1,5 +1,6 @@
 #include "support/pointer.h"
 #include "support/testcase.h"
+#include "support/windowmouse.h"
 
 #include <sliderexmouse.h>
 
@@ -25,6 +26,19 @@ public:
     using SliderExMouse::repeatAction;
     using SliderExMouse::SliderExMouse;
 
+    QRect handle() const
+    {
+        QStyleOptionSlider option;
+        initStyleOption(&option);
+        return style()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, this);
+    }
+};
+
+/// A slider that tells where its handle is painted.
+class HandleSlider : public SliderExMouse
+{
+public:
+    using SliderExMouse::SliderExMouse;
     QRect handle() const
     {
         QStyleOptionSlider option;
@@ -368,6 +382,44 @@ private Q_SLOTS:
         connect(slider, &QSlider::valueChanged, slider, [slider] { delete slider; });
         releaseAt(slider, QPointF(50, 3));
         QVERIFY(guard.isNull());
+    }
+
+    void jumpsToThePointerInEveryDirection_data()
+    {
+        QTest::addColumn<bool>("isMirrored");
+        QTest::addColumn<bool>("isInverted");
+        QTest::addColumn<int>("value");
+        QTest::newRow("left to right") << false << false << 25;
+        QTest::newRow("right to left") << true << false << 75;
+        QTest::newRow("right to left, turned round") << true << true << 25;
+    }
+    void jumpsToThePointerInEveryDirection()
+    {
+        QFETCH(bool, isMirrored);
+        QFETCH(bool, isInverted);
+        QFETCH(int, value);
+        HandleSlider slider(nullptr, Qt::Horizontal);
+        slider.setRange(0, 100);
+        slider.resize(200, 24);
+        slider.setLayoutDirection(isMirrored ? Qt::RightToLeft : Qt::LeftToRight);
+        slider.setInvertedAppearance(isInverted);
+        QVERIFY(pointer::showAndWait(&slider));
+        windowmouse::click(&slider, Qt::LeftButton, QPoint(50, 12));
+        QCOMPARE(slider.value(), value);
+        // The handle, 10 pixels wide, is where the pointer is.
+        const QRect handle = slider.handle();
+        QVERIFY2(qAbs(handle.center().x() - 50) <= 6, qPrintable(QString::number(handle.x())));
+    }
+
+    void verticalSliderJumpsAsEverFromRightToLeft()
+    {
+        SliderExMouse slider(nullptr, Qt::Vertical);
+        slider.setRange(0, 100);
+        slider.resize(20, 200);
+        slider.setLayoutDirection(Qt::RightToLeft);
+        QVERIFY(pointer::showAndWait(&slider));
+        windowmouse::click(&slider, Qt::LeftButton, QPoint(5, 100));
+        QCOMPARE(slider.value(), 25);
     }
 };
 

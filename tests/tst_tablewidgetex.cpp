@@ -1,4 +1,5 @@
 #include "support/pointer.h"
+#include "support/righttoleft.h"
 #include "support/sheetimages.h"
 #include "support/testcase.h"
 #include "support/windowmouse.h"
@@ -1080,6 +1081,24 @@ private Q_SLOTS:
         QVERIFY(guarded);
         QCOMPARE(page->layout(), layout);
         delete page;
+    }
+
+    void addButtonFollowsTheTabsFromRightToLeft()
+    {
+        const MirroredApplication application;
+        TableWidgetEx table(nullptr, EditableTable, "Screen");
+        table.resize(500, 200);
+        table.addTable(true);
+        table.addTable(false);
+        table.setBMovedCornerButton(true);
+        QVERIFY(pointer::showAndWait(&table));
+        table.grab();
+        const QAbstractButton *add = buttonNamed(&table, "Add tab");
+        const QTabBar *bar = table.findChild<QTabBar *>();
+        QCOMPARE(bar->geometry().right(), 499);
+        QCOMPARE(add->geometry().right(), bar->geometry().left() - 1);
+        // The first tab, and the close button on it, are at the right.
+        QVERIFY(bar->tabRect(0).left() > bar->tabRect(1).left());
     }
 };
 

@@ -20,12 +20,13 @@ struct Request {
     int exitStatus = 0;
     QStringList pages; ///< One page, or all of them.
     QString directory;
+    bool isRightToLeft = false;
 };
 
 Request fail(const QString &reason)
 {
     std::fprintf(stderr, "orvane-gallery: %s\n", qPrintable(reason));
-    return {Request::Done, usageError, {}, {}};
+    return {Request::Done, usageError, {}, {}, false};
 }
 
 /// Answers what needs no window, so that it works, and stays quiet, without a display.
@@ -46,7 +47,9 @@ Request readCommandLine(int argc, char **argv)
                                         "name");
     const QCommandLineOption renderOption(
         "render", "Renders the pages to PNG files in that folder. Needs no display.", "folder");
-    parser.addOptions({listOption, pageOption, renderOption});
+    const QCommandLineOption mirrorOption(
+        "rtl", "Lays everything out from right to left, as Arabic and Hebrew are read.");
+    parser.addOptions({listOption, pageOption, renderOption, mirrorOption});
 
     if (!parser.parse(QCoreApplication::arguments()))
         return fail(parser.errorText());
@@ -68,6 +71,7 @@ Request readCommandLine(int argc, char **argv)
     }
 
     Request request;
+    request.isRightToLeft = parser.isSet(mirrorOption);
     if (parser.isSet(pageOption)) {
         const QString name = parser.value(pageOption);
         const PageInfo *page = findPage(name);
@@ -105,6 +109,8 @@ int main(int argc, char **argv)
     QApplication::setApplicationDisplayName("OrvaneControls Gallery");
     QApplication::setApplicationVersion(GALLERY_VERSION);
     hostprogram::dress();
+    if (request.isRightToLeft)
+        QApplication::setLayoutDirection(Qt::RightToLeft);
 
     if (request.kind == Request::Render) {
         const QString error = renderPages(request.pages, request.directory);

@@ -1,10 +1,14 @@
 #include "buttongroupex.h"
 
+#include "internal/mirroring.h"
+#include "internal/spokenname.h"
 #include "internal/stepscroll.h"
 #include "internal/stylesheet.h"
+#include "internal/taborder.h"
 #include "toolbuttonex.h"
 #include "ui_buttongroupex.h"
 
+#include <QEvent>
 #include <QLabel>
 #include <QScrollBar>
 
@@ -52,9 +56,11 @@ ButtonGroupEx::ButtonGroupEx(QWidget *parent)
     , m_ui(std::make_unique<Ui::ButtonGroupEx>())
 {
     m_ui->setupUi(this);
+    orvane::keepFromLeftToRight(m_ui->mainLayout);
     createScrollBtn();
     createAddCabnicateBtn();
     createAddRowCabnicateBtn();
+    orvane::tabInOrder({m_leftButton, m_addButton, m_addRowButton, m_rightButton});
     const QScrollBar *bar = m_ui->scrollArea->horizontalScrollBar();
     m_position = bar->sliderPosition();
     m_step = scrollStep;
@@ -71,8 +77,10 @@ ButtonGroupEx::~ButtonGroupEx() = default;
 void ButtonGroupEx::createScrollBtn()
 {
     m_leftButton = createHostButton(m_ui->leftBtnFrame, "isCabinateWidgetLeftBtn");
+    orvane::speakAs(m_leftButton, tr("Scroll left"));
     connect(m_leftButton, &ToolButtonEx::clicked, this, &ButtonGroupEx::on_leftClicked);
     m_rightButton = createHostButton(m_ui->rightBtnFrame, "isCabinateWidgetRightBtn");
+    orvane::speakAs(m_rightButton, tr("Scroll right"));
     connect(m_rightButton, &ToolButtonEx::clicked, this, &ButtonGroupEx::on_rightClicked);
     m_leftPlaceholder = createPlaceholder(m_ui->leftBtnFrame);
     m_rightPlaceholder = createPlaceholder(m_ui->rightBtnFrame);
@@ -82,6 +90,7 @@ void ButtonGroupEx::createScrollBtn()
 void ButtonGroupEx::createAddCabnicateBtn()
 {
     m_addButton = createButton(m_ui->addCabniateBtnFrame, AddCabinetType);
+    orvane::speakAs(m_addButton, tr("Add cabinets"));
     connect(m_addButton, &ToolButtonEx::clicked, this, &ButtonGroupEx::on_addCabnicate);
 }
 
@@ -89,6 +98,7 @@ void ButtonGroupEx::createAddRowCabnicateBtn()
 {
     orvane::applyStyleSheet(m_ui->addRowCabniateBtnFrame, QStringLiteral("border:none;"));
     m_addRowButton = createHostButton(m_ui->addRowCabniateBtnFrame, "isAddRowCabnicateBtn");
+    orvane::speakAs(m_addRowButton, tr("Add row of cabinets"));
     connect(m_addRowButton, &ToolButtonEx::clicked, this, &ButtonGroupEx::slot_addRowCabnicate);
 }
 
@@ -110,6 +120,7 @@ void ButtonGroupEx::addWidget(QWidget *w)
                             QStringLiteral(".QWidget{background:rgb(62,62,62);}"
                                            ".QWidget:disabled{background:rgb(62,62,62);}"));
     m_ui->scrollArea->setWidget(w);
+    orvane::tabInOrder(QList<QWidget *>{m_addRowButton} + orvane::tabStops(w) << m_rightButton);
     m_contentWidth = w->width();
     layOutScrollArea();
     setScrollBtnIsVisble(isWidthBigThanScrollWidth());
@@ -210,6 +221,13 @@ void ButtonGroupEx::slot_addRowCabnicate()
     Q_EMIT signal_addRowCabinetsClicked();
     if (self)
         notifyIfContentIsWide();
+}
+
+void ButtonGroupEx::changeEvent(QEvent *event)
+{
+    QFrame::changeEvent(event);
+    if (event->type() == QEvent::LayoutDirectionChange)
+        orvane::keepFromLeftToRight(m_ui->mainLayout);
 }
 
 void ButtonGroupEx::setLeftArrowVisible(bool visible)

@@ -101,6 +101,10 @@ public Q_SLOTS:
     /// Reports a click on the button that adds a row of cabinets.
     void slot_addRowCabnicate();
 
+protected:
+    /// Keeps the arrows and the content from left to right, whatever the strip's direction.
+    void changeEvent(QEvent *event) override;
+
 private:
     void setLeftArrowVisible(bool visible);
     void setRightArrowVisible(bool visible);

@@ -7,6 +7,7 @@
 #include <QListView>
 #include <QListWidgetItem>
 #include <QPainter>
+#include <QStyle>
 
 #include <algorithm>
 #include <utility>
@@ -375,10 +376,15 @@ void ComboBoxEx::paintEvent(QPaintEvent *event)
 
     QPainter painter(this);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    // From right to left the arrow is at the left, and picture and text begin at the right.
+    const auto mirrored = [this](const QRect &place) {
+        return QStyle::visualRect(layoutDirection(), rect(), place);
+    };
     if (m_isChangeImg) {
         // The "Double" images are drawn at their single size.
-        painter.drawPixmap(QRect(0, 0, m_defaultPixmap.width() / 2, m_defaultPixmap.height() / 2),
-                           m_defaultPixmap);
+        painter.drawPixmap(
+            mirrored(QRect(0, 0, m_defaultPixmap.width() / 2, m_defaultPixmap.height() / 2)),
+            m_defaultPixmap);
         return;
     }
     constexpr int imageLeft = 12;
@@ -386,11 +392,14 @@ void ComboBoxEx::paintEvent(QPaintEvent *event)
     const int imageWidth = m_currentPixmap.width();
     const int imageHeight = m_currentPixmap.height();
     painter.drawPixmap(
-        QRect(imageLeft, (height() - imageHeight) / 2 + 1, imageWidth, imageHeight - 2),
+        mirrored(QRect(imageLeft, (height() - imageHeight) / 2 + 1, imageWidth, imageHeight - 2)),
         m_currentPixmap);
     if (m_isDrawText) {
         const int baseline = (painter.fontMetrics().height() + height()) / 2 - 4;
-        painter.drawText(imageWidth + textGap, baseline, m_currentText);
+        const int left = imageWidth + textGap;
+        const int textWidth = painter.fontMetrics().horizontalAdvance(m_currentText);
+        painter.drawText(isRightToLeft() ? width() - left - textWidth : left, baseline,
+                         m_currentText);
     }
 }
 

@@ -1,6 +1,7 @@
 #include "customlistwidgetitem.h"
 
 #include "internal/imagebutton.h"
+#include "internal/spokenname.h"
 #include "internal/stylesheet.h"
 
 #include <QHBoxLayout>
@@ -22,6 +23,7 @@ CustomListWidgetItem::CustomListWidgetItem(QWidget *parent)
     m_deleteButton->setMaximumWidth(17);
     orvane::applyStyleSheet(m_deleteButton, orvane::imageButtonSheet("listwidget/trash"));
     m_deleteButton->hide();
+    orvane::speakAs(m_deleteButton, tr("Delete"));
 
     m_iconButton->setFixedSize(20, 20);
     m_iconButton->setContentsMargins(0, 0, 6, 0);
@@ -56,6 +58,8 @@ void CustomListWidgetItem::setValidIcon(bool isWarned)
     m_iconButton->setIcon(
         isWarned ? QIcon(":/Resource/Images/globalResource/listwidget/pathWarning.png") : QIcon());
     orvane::applyStyleSheet(m_iconButton, "border:none");
+    orvane::speakAs(m_iconButton, isWarned ? tr("Not found") : QString(),
+                    isWarned ? QString() : tr("Not found"));
 }
 
 void CustomListWidgetItem::slot_deleteItem()

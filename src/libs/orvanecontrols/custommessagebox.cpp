@@ -1,6 +1,8 @@
 #include "custommessagebox.h"
 
+#include "internal/spokenname.h"
 #include "internal/stylesheet.h"
+#include "internal/taborder.h"
 #include "pushbuttonex.h"
 #include "ui_custommessagebox.h"
 
@@ -70,6 +72,7 @@ CustomMessageBox::CustomMessageBox(QWidget *parent)
                        "url(':/Resource/Image/titleBar/btn_close_hover@2x.png');}"
                        "QToolButton:pressed{border-image:"
                        "url(':/Resource/Image/titleBar/btn_close_pressed@2x.png');}"));
+    orvane::speakAs(m_ui->toolButton, tr("Close"));
     connect(m_ui->toolButton, &QToolButton::clicked, this, &CustomMessageBox::slot_closeBtnClicked);
     m_ui->toolButton->hide();
 }
@@ -166,6 +169,7 @@ void CustomMessageBox::createControls()
     m_cancelButton = makeButton(m_ui->frame_cancel, NoActivatedBtn);
     connect(m_cancelButton, &PushButtonEx::clicked, this,
             &CustomMessageBox::on_handleCancelClicked);
+    orvane::tabInOrder({m_okButton, m_applyButton, m_cancelButton});
 }
 
 void CustomMessageBox::on_handleOkClicked()

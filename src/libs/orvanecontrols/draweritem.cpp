@@ -1,7 +1,9 @@
 #include "draweritem.h"
 
 #include "definecommondata.h"
+#include "internal/spokenname.h"
 #include "internal/stylesheet.h"
+#include "internal/taborder.h"
 #include "labelex.h"
 #include "scrollbarex.h"
 
@@ -129,12 +131,14 @@ void DrawerItem::createDrawerItem()
     headerGrid->addLayout(headerLine, 0, 0);
 
     m_shrinkButton = new QToolButton(m_headerFrame);
+    orvane::speakAs(m_shrinkButton, tr("Expand"));
     connect(m_shrinkButton, &QToolButton::clicked, this, &DrawerItem::on_toolButton_shrink_clicked);
     m_shrinkButton->setFixedSize(10, 10);
     orvane::applyStyleSheet(m_shrinkButton, shrinkSheet("open"));
     headerLine->addWidget(m_shrinkButton);
 
     m_checkAllBox = new QCheckBox(m_headerFrame);
+    orvane::speakAs(m_checkAllBox, tr("Select all"));
     connect(m_checkAllBox, &QCheckBox::clicked, this, &DrawerItem::slot_checkAllClicked);
     orvane::applyStyleSheet(m_checkAllBox, checkSheet(false));
     m_checkAllBox->setFixedSize(20, 20);
@@ -154,6 +158,8 @@ void DrawerItem::createDrawerItem()
 
     m_onlineDot = new QToolButton(m_rightFrame);
     m_onlineDot->setFixedSize(8, 8);
+    m_onlineDot->setFocusPolicy(Qt::NoFocus); // it only shows
+    orvane::speakAs(m_onlineDot, tr("Offline"));
     orvane::applyStyleSheet(m_onlineDot, dotSheet(false));
     rightLine->addWidget(m_onlineDot);
     rightLine->addWidget(createNames());
@@ -161,6 +167,7 @@ void DrawerItem::createDrawerItem()
 
     m_rightButton = new QToolButton(m_rightFrame);
     m_rightButton->setFixedSize(43, 42);
+    orvane::speakAs(m_rightButton, tr("Settings"));
     connect(m_rightButton, &QToolButton::clicked, this, &DrawerItem::on_toolButton_RightClicked);
     setSettingsStyle(true);
     rightLine->addWidget(m_rightButton);
@@ -226,6 +233,8 @@ void DrawerItem::addItem(QWidget *w)
         return;
     w->setParent(m_scrollArea);
     m_scrollArea->setWidget(w);
+    // The body may come when there are further items already.
+    orvane::tabInOrder(QList<QWidget *>{m_scrollArea} + orvane::tabStops(w));
 }
 
 QWidget *DrawerItem::getItem()
@@ -268,6 +277,8 @@ void DrawerItem::setWorkSpaceisShow(bool show)
         m_contentWidget->setVisible(show);
     }
     orvane::applyStyleSheet(m_shrinkButton, shrinkSheet(show ? "open" : "close"));
+    orvane::speakAs(m_shrinkButton, show ? tr("Collapse") : tr("Expand"),
+                    show ? tr("Expand") : tr("Collapse"));
     m_isWorkSpaceShown = show;
 }
 
@@ -369,6 +380,8 @@ void DrawerItem::setBOnline(bool online)
     m_isOnline = online;
     m_rightButton->setEnabled(online);
     orvane::applyStyleSheet(m_onlineDot, dotSheet(online));
+    orvane::speakAs(m_onlineDot, online ? tr("Online") : tr("Offline"),
+                    online ? tr("Offline") : tr("Online"));
     if (online)
         setSettingsStyle(m_isItemPressed);
     else
@@ -561,6 +574,7 @@ void DrawerItem::notifyHeaderClicked()
 
 void DrawerItem::setSettingsStyle(bool isSelected)
 {
+    orvane::speakAs(m_rightButton, tr("Settings"), tr("Delete"));
     const QString rest = QStringLiteral(
         "border-top-right-radius:5px;border-bottom-right-radius:5px;border-image:url("
         ":/Resource/Images/globalResource/drawer/btn_settings_pressedDouble.png);}");
@@ -574,6 +588,7 @@ void DrawerItem::setSettingsStyle(bool isSelected)
 
 void DrawerItem::setDeleteStyle()
 {
+    orvane::speakAs(m_rightButton, tr("Delete"), tr("Settings"));
     orvane::applyStyleSheet(
         m_rightButton,
         QStringLiteral("QToolButton{border-image:"

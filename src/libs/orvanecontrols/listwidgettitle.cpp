@@ -1,8 +1,10 @@
 #include "listwidgettitle.h"
 
 #include "internal/imagebutton.h"
+#include "internal/spokenname.h"
 #include "internal/stylesheet.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QIcon>
 #include <QLabel>
@@ -40,6 +42,8 @@ void ListWidgetTitle::changeDropDownBtn(bool isShown)
 {
     m_dropDownButton->setIcon(QIcon());
     orvane::applyStyleSheet(m_dropDownButton, buttonSheet(isShown ? "btn_unfold" : "btn_fold"));
+    orvane::speakAs(m_dropDownButton, isShown ? tr("Fold") : tr("Unfold"),
+                    isShown ? tr("Unfold") : tr("Fold"));
 }
 
 void ListWidgetTitle::hideRefIcon()
@@ -60,6 +64,26 @@ void ListWidgetTitle::slot_HideClicked()
     Q_EMIT signal_HideShow(m_isListShown);
 }
 
+void ListWidgetTitle::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LayoutDirectionChange)
+        m_settingsButton->move(cornerOfSettings());
+}
+
+void ListWidgetTitle::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    if (isRightToLeft())
+        m_settingsButton->move(cornerOfSettings());
+}
+
+QPoint ListWidgetTitle::cornerOfSettings() const
+{
+    // Over the title, as no layout has it. At the left the other buttons would lie below it.
+    return {isRightToLeft() ? width() - m_settingsButton->width() : 0, 0};
+}
+
 void ListWidgetTitle::initLayout()
 {
     constexpr int buttonSide = 13;
@@ -73,6 +97,9 @@ void ListWidgetTitle::initLayout()
         button->setFixedSize(buttonSide, buttonSide);
     orvane::applyStyleSheet(m_settingsButton, buttonSheet("btn_settings_guide"));
     orvane::applyStyleSheet(m_refreshButton, buttonSheet("btn_refresh_guide"));
+    orvane::speakAs(m_settingsButton, tr("Settings"));
+    orvane::speakAs(m_refreshButton, tr("Refresh"));
+    orvane::speakAs(m_dropDownButton, tr("Fold"));
     changeDropDownBtn(true);
     m_settingsButton->hide();
 

@@ -33,7 +33,8 @@ public:
     /// Hides the refresh button. \see setIconVisible()
     void hideRefIcon();
     /// Shows or hides the settings, the refresh and the drop-down button. The settings button then
-    /// stands in the top left corner, over the title.
+    /// stands in the top left corner, over the title; in the top right one, over the title too,
+    /// when the layout is from right to left.
     void setIconVisible(bool visible);
 
 Q_SIGNALS:
@@ -49,8 +50,15 @@ public Q_SLOTS:
     /// What a click on the drop-down button does: emits signal_HideShow().
     void slot_HideClicked();
 
+protected:
+    /// Keeps the settings button in its corner when the direction of the layout changes.
+    void changeEvent(QEvent *event) override;
+    /// Keeps the settings button in its corner.
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
     void initLayout();
+    QPoint cornerOfSettings() const;
 
     QLabel *m_titleLabel = nullptr;
     QToolButton *m_settingsButton = nullptr;

@@ -1,6 +1,7 @@
 #include "newtablewidget.h"
 
 #include "internal/livelist.h"
+#include "internal/spokenname.h"
 #include "internal/stylesheet.h"
 #include "internal/tablelook.h"
 
@@ -87,14 +88,20 @@ void NewTableWidget::createCheckBoxColumn()
 
     removeHeaderCheckBox();
     m_headerCheckBox = makeCheckBox(this);
+    orvane::speakAs(m_headerCheckBox, tr("Select all rows"));
     m_headerCheckBox->setGeometry(0, headerCheckBoxTop, headerCheckBoxSize, headerCheckBoxSize);
     connect(m_headerCheckBox, &QCheckBox::stateChanged, this,
             &NewTableWidget::on_notifyStateChange);
     m_headerCheckBox->show(); // by itself it comes only with a table that is not shown yet
 
-    for (int row = 0; row < rowCount(); ++row)
-        setCellWidget(row, 0, makeCheckBox(this));
+    for (int row = 0; row < rowCount(); ++row) {
+        QCheckBox *box = makeCheckBox(this);
+        orvane::speakAs(box, tr("Select row"));
+        setCellWidget(row, 0, box);
+    }
     m_isCheckBoxColumnShown = true;
+    if (isRightToLeft())
+        placeMirroredHeaderCheckBox();
 }
 
 QCheckBox *NewTableWidget::rowCheckBox(int row) const
@@ -126,10 +133,22 @@ void NewTableWidget::placeHeaderCheckBox()
 {
     if (!m_isCheckBoxColumnShown || !m_headerCheckBox || rowCount() == 0)
         return;
+    if (isRightToLeft()) {
+        placeMirroredHeaderCheckBox();
+        return;
+    }
     // A first row that was added later has no box; its box would stand where the column begins.
     const QCheckBox *firstBox = rowCheckBox(0);
     m_headerCheckBox->setGeometry(firstBox ? firstBox->x() : columnViewportPosition(0),
                                   headerCheckBoxTop, headerCheckBoxSize, headerCheckBoxSize);
+}
+
+void NewTableWidget::placeMirroredHeaderCheckBox()
+{
+    // The column is at the right, and its boxes stand at their right ends.
+    const int end = viewport()->x() + columnViewportPosition(0) + columnWidth(0);
+    m_headerCheckBox->setGeometry(end - headerCheckBoxSize, headerCheckBoxTop, headerCheckBoxSize,
+                                  headerCheckBoxSize);
 }
 
 void NewTableWidget::on_notifyStateChange(int state)
@@ -170,4 +189,20 @@ void NewTableWidget::resizeEvent(QResizeEvent *event)
     QTableWidget::resizeEvent(event);
     letLastColumnShrink();
     placeHeaderCheckBox();
+}
+
+void NewTableWidget::updateEditorGeometries()
+{
+    QTableWidget::updateEditorGeometries();
+    // At the right, the column goes with each change of the width of any other.
+    if (isRightToLeft() && m_isCheckBoxColumnShown && m_headerCheckBox)
+        placeMirroredHeaderCheckBox();
+}
+
+bool NewTableWidget::focusNextPrevChild(bool next)
+{
+    // A box that has the focus asks here too, and Qt's table would keep it in its cells for good.
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call)
+    return hasFocus() ? QTableWidget::focusNextPrevChild(next)
+                      : QFrame::focusNextPrevChild(next); // clazy:exclude=skipped-base-method
 }

@@ -53,12 +53,18 @@ public Q_SLOTS:
 protected:
     /// Fits the last column and the header box to the new size.
     void resizeEvent(QResizeEvent *event) override;
+    /// Places the boxes of the rows and, in a layout from right to left, that of the header.
+    void updateEditorGeometries() override;
+    /// Lets the tab key go from box to box and out of the table; among the cells it goes only while
+    /// the table itself has the focus.
+    bool focusNextPrevChild(bool next) override;
 
 private:
     QCheckBox *rowCheckBox(int row) const;
     void removeCheckBoxes();
     void removeHeaderCheckBox();
     void placeHeaderCheckBox();
+    void placeMirroredHeaderCheckBox();
     void letLastColumnShrink();
 
     bool m_isCheckBoxColumnShown = false;

@@ -2,6 +2,7 @@
 
 #include "internal/livelist.h"
 #include "internal/stylesheet.h"
+#include "internal/taborder.h"
 
 #include <QHBoxLayout>
 #include <QSpacerItem>
@@ -122,11 +123,13 @@ void NQTabBar::setCenterHLayoutSpace(int space)
 void NQTabBar::addLeftWidget(QWidget *widget)
 {
     addToPlace(m_leftWidgets, m_leftLayout, widget);
+    orderTabStops();
 }
 
 void NQTabBar::addRightWidget(QWidget *widget)
 {
     addToPlace(m_rightWidgets, m_rightLayout, widget);
+    orderTabStops();
 }
 
 void NQTabBar::addCenterWidget(QWidget *widget)
@@ -134,6 +137,23 @@ void NQTabBar::addCenterWidget(QWidget *widget)
     orvane::dropDeleted(m_centerWidgets);
     if (m_centerWidgets.isEmpty())
         addToPlace(m_centerWidgets, m_centerLayout, widget);
+    orderTabStops();
+}
+
+void NQTabBar::orderTabStops()
+{
+    QList<QWidget *> stops;
+    const auto addStopsIn = [this, &stops](const QVector<QPointer<QWidget>> &widgets) {
+        for (const QPointer<QWidget> &widget : widgets) {
+            if (widget && isAncestorOf(widget)) // a host may have moved it elsewhere
+                stops += orvane::tabStops(widget);
+        }
+    };
+    addStopsIn(m_leftWidgets);
+    stops.append(m_tabBar);
+    addStopsIn(m_centerWidgets);
+    addStopsIn(m_rightWidgets);
+    orvane::tabInOrder(stops);
 }
 
 int NQTabBar::insertTab(int index, const QString &text)

@@ -166,6 +166,7 @@ private Q_SLOTS:
 
 private:
     void initUi();
+    void orderTabStops();
 
     TabBarRd *m_tabBar = nullptr;
     QVector<QPointer<QWidget>> m_leftWidgets;

@@ -2,6 +2,7 @@
 
 #include "definecommondata.h"
 #include "internal/elidedtext.h"
+#include "internal/spokenname.h"
 #include "internal/stylesheet.h"
 
 #include <QBoxLayout>
@@ -175,9 +176,12 @@ QString NQToolButton::text() const
 
 void NQToolButton::setStrDownText(QString text)
 {
+    const QString spokenBefore = m_spokenCaption;
     m_downText = std::move(text);
     if (m_type != ImageAboveCaption || !m_downLabel)
         return;
+    m_spokenCaption = m_downText; // whole, before it is cut
+    orvane::speakAs(this, m_spokenCaption, spokenBefore);
     m_downLabel->ensurePolished(); // with the font that the caption is shown in
     const QFontMetrics metrics(m_downLabel->font());
     const int captionWidth = metrics.horizontalAdvance(m_downText);

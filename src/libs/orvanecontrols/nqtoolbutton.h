@@ -155,6 +155,7 @@ private:
     QLabel *m_upLabel = nullptr;
     QLabel *m_downLabel = nullptr;
     QString m_downText;
+    QString m_spokenCaption; ///< The caption whole, as a screen reader speaks it.
     QVBoxLayout *m_verticalLayout = nullptr;
     QString m_upImage;
     QString m_upDisabledImage;

@@ -51,10 +51,17 @@ Q_SIGNALS:
     /// The button of \a portItem, this frame, went down. The frame may be deleted here.
     void signal_portItemPressed(OfflinePortItemFrame *portItem);
 
+protected:
+    /// Keeps the number beside its button when the direction of the layout changes.
+    void changeEvent(QEvent *event) override;
+
 private Q_SLOTS:
     void on_itemPressed();
 
 private:
+    void setNumber(qint64 number);
+    void alignNumber();
+
     std::unique_ptr<Ui::OfflinePortItemFrame> m_ui;
     int m_portIndex = -1;
     ItemType m_itemType = PortItem;

@@ -2,6 +2,7 @@
 
 #include "internal/livelist.h"
 #include "internal/portlook.h"
+#include "internal/spokenname.h"
 #include "internal/stylesheet.h"
 #include "toolbuttonex.h"
 #include "widgetwithscrollex.h"
@@ -74,7 +75,11 @@ void RowLineItem::setLineItemType(int portIndex, ItemType type)
 {
     m_portIndex = portIndex;
     m_itemType = type;
-    m_portLabel->setText(QString::number(portIndex));
+    const QString number = QString::number(portIndex);
+    const QString previous = m_portLabel->text();
+    orvane::speakAs(m_portButton, tr("Port %1").arg(number),
+                    previous.isEmpty() ? QString() : tr("Port %1").arg(previous));
+    m_portLabel->setText(number);
     orvane::showPortReleased(m_portButton, m_itemType, m_portIndex);
 }
 

@@ -35,6 +35,7 @@ void ShapeWidget::createTriggleBtn()
 {
     m_triggleButton = new QToolButton(m_ui->triggleFrame);
     m_triggleButton->setFixedSize(triggleWidth, triggleHeight);
+    m_triggleButton->setFocusPolicy(Qt::NoFocus); // it only points
     orvane::applyStyleSheet(
         m_triggleButton,
         QStringLiteral("QToolButton{border-image:"

@@ -30,7 +30,10 @@ void SliderExMouse::mouseReleaseEvent(QMouseEvent *event)
         return;
 
     // All in double: a position may lie far outside the slider, and the range may be all of int.
-    const double x = std::floor(event->localPos().x() + 0.5);
+    double x = std::floor(event->localPos().x() + 0.5);
+    // From right to left the values grow toward the left, unless the host has turned them round.
+    if (orientation() == Qt::Horizontal && isRightToLeft() && !invertedAppearance())
+        x = width() - x;
     const double low = minimum();
     const double high = maximum();
     const double exact = low + (high - low) * (x / width());

@@ -6,10 +6,11 @@
 /**
  * A slider that jumps to the point where the left mouse button is released.
  *
- * The point is always taken along the x axis, for a vertical slider too. Page and single step are
- * 0, so neither keys nor clicks on the groove move the slider by steps. The release goes no
- * further: QAbstractSlider::sliderReleased() is never emitted and isSliderDown() stays true after
- * the handle was dragged.
+ * The point is always taken along the x axis, for a vertical slider too, and from the right end in
+ * a horizontal slider that is laid out from right to left. Page and single step are 0, so neither
+ * keys nor clicks on the groove move the slider by steps. The release goes no further:
+ * QAbstractSlider::sliderReleased() is never emitted and isSliderDown() stays true after the handle
+ * was dragged.
  *
  * sliderMouseRealse() is a signal of this class, beside the one of the same name in SliderEx, which
  * a SliderExMouse never emits. Connect to &SliderExMouse::sliderMouseRealse or to

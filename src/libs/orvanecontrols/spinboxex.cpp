@@ -6,12 +6,15 @@
 #include <QDebug>
 #include <QFocusEvent>
 #include <QKeyEvent>
+#include <QLocale>
 #include <QMouseEvent>
 #include <QPointer>
 
 SpinBoxEx::SpinBoxEx(QWidget *parent)
     : QSpinBox(parent)
 {
+    // Texts are written and read with plain digits everywhere, so they are checked that way too.
+    setLocale(QLocale::c());
     initStyle();
 }
 

@@ -1,5 +1,7 @@
 #include "tabbarrd.h"
 
+#include "internal/spokenname.h"
+
 TabBarRd::TabBarRd(QWidget *parent)
     : QTabBar(parent)
 {
@@ -50,4 +52,10 @@ void TabBarRd::resizeEvent(QResizeEvent *event)
 {
     QTabBar::resizeEvent(event);
     update();
+}
+
+void TabBarRd::tabLayoutChange()
+{
+    QTabBar::tabLayoutChange();
+    orvane::nameCloseButtons(this, tr("Close tab"));
 }

@@ -47,6 +47,8 @@ protected:
     QSize tabSizeHint(int index) const override;
     /// Places the tabs anew, and repaints them.
     void resizeEvent(QResizeEvent *event) override;
+    /// Gives the close buttons of the tabs their spoken name.
+    void tabLayoutChange() override;
 
 private:
     TabBarType m_tabBarType = TabsByContent;

@@ -1,6 +1,7 @@
 #include "tablewidgetex.h"
 
 #include "internal/imagebutton.h"
+#include "internal/spokenname.h"
 #include "internal/stylesheet.h"
 #include "scrollbarex.h"
 
@@ -105,6 +106,7 @@ void TableWidgetEx::setIsLoadCornerWidget(bool isLoad)
     if (!m_addButton) {
         m_addButton = new orvane::ImageButton;
         m_addButton->setFixedSize(addButtonSize, addButtonSize);
+        orvane::speakAs(m_addButton, tr("Add tab"));
         connect(m_addButton, &QToolButton::clicked, this, &TableWidgetEx::on_addTable);
         orvane::applyStyleSheet(m_addButton,
                                 orvane::imageButtonSheet(QStringLiteral("tabwidget/add")));
@@ -127,6 +129,7 @@ void TableWidgetEx::setIsShowAddButton(bool isShow)
 void TableWidgetEx::setTabsClosable(bool closable)
 {
     QTabWidget::setTabsClosable(closable);
+    orvane::nameCloseButtons(tabBar(), tr("Close tab"));
 }
 
 void TableWidgetEx::setCornerWidget(QWidget *widget, Qt::Corner corner)
@@ -226,10 +229,16 @@ void TableWidgetEx::paintEvent(QPaintEvent *event)
     if (!m_isMovedCornerButton || !m_addButton)
         return;
     const QRect bar = tabBar()->geometry();
-    int x = bar.x() + bar.width();
-    if (x + m_addButton->width() > width())
+    int x = isRightToLeft() ? bar.x() - m_addButton->width() : bar.x() + bar.width();
+    if (x < 0 || x + m_addButton->width() > width())
         x = m_addButton->x();
     m_addButton->move(x, qMax(0, bar.y() + (bar.height() - m_addButton->height()) / 2));
+}
+
+void TableWidgetEx::tabInserted(int index)
+{
+    QTabWidget::tabInserted(index);
+    orvane::nameCloseButtons(tabBar(), tr("Close tab"));
 }
 
 int TableWidgetEx::index() const

@@ -189,6 +189,8 @@ public Q_SLOTS:
 protected:
     /// Paints the tabs, and moves the add button beside the last one if it is to follow them.
     void paintEvent(QPaintEvent *event) override;
+    /// Gives the close button of the new tab its spoken name.
+    void tabInserted(int index) override;
 
 private Q_SLOTS:
     void on_rangeChanged(int min, int max);

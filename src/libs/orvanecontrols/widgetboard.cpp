@@ -1,5 +1,6 @@
 #include "widgetboard.h"
 
+#include "internal/spokenname.h"
 #include "internal/stylesheet.h"
 #include "shapewidget.h"
 
@@ -166,6 +167,7 @@ void WidgetBoard::createDropDownBtn()
     m_dropDownButton = new QToolButton(this);
     m_dropDownButton->setFocusPolicy(Qt::NoFocus);
     m_dropDownButton->setMouseTracking(true);
+    orvane::speakAs(m_dropDownButton, tr("Show all"));
     m_dropDownButton->hide();
     m_dropDownButton->setFixedSize(dropDownWidth, dropDownHeight);
     orvane::applyStyleSheet(

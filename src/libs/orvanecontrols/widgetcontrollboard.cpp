@@ -3,6 +3,7 @@
 #include "buttongroupex.h"
 #include "internal/livelist.h"
 #include "internal/pushbuttonwithimgex.h"
+#include "internal/spokenname.h"
 #include "internal/stylesheet.h"
 #include "shapewidgetcontent.h"
 #include "toolbuttonex.h"
@@ -26,6 +27,18 @@ constexpr int copyColumns = 3;
 constexpr int leaveDelay = 300; // milliseconds
 constexpr int popupExtraWidth = 10;
 constexpr int popupExtraHeight = 30;
+
+/// What a screen reader speaks for \a source, which may show a picture alone.
+QString spokenText(const QWidget *source)
+{
+    const auto *button = qobject_cast<const QAbstractButton *>(source);
+    for (const QString &text :
+         {source->accessibleName(), button ? button->text() : QString(), source->toolTip()}) {
+        if (!text.isEmpty())
+            return text;
+    }
+    return {};
+}
 
 } // namespace
 
@@ -80,6 +93,7 @@ void WidgetControllBoard::addWidgetContent(WidgetInfo *info)
     auto *button = new PushButtonWithImgEx(info->imagePath, info->pressedImagePath, nullptr);
     button->setFixedSize(pictureButtonSide, pictureButtonSide);
     button->setToolTip(info->toolTip);
+    orvane::speakAs(button, info->toolTip);
     QList<QWidget *> list = lsWidget();
     list.append(button);
     setLsWidget(list);
@@ -225,6 +239,8 @@ void WidgetControllBoard::createShapeContent()
 {
     m_shapeContent = new ShapeWidgetContent(this);
     m_shapeContent->setColumn(copyColumns);
+    // The copies stand in the order of the strip, which is from left to right in any language.
+    m_shapeContent->setLayoutDirection(Qt::LeftToRight);
     // Until it is in the popup it would lie on the strip.
     m_shapeContent->hide();
     connect(m_shapeContent, &ShapeWidgetContent::sigClickedIndex, this,
@@ -283,6 +299,7 @@ QWidget *WidgetControllBoard::createCopy(QWidget *source)
     copy->setFixedSize(source->size());
     // After the cabinet size, which sets a tool tip too.
     copy->setToolTip(source->toolTip());
+    copy->setAccessibleName(spokenText(source));
     return copy;
 }
 

@@ -1,9 +1,13 @@
 #include "widgetwithscrollex.h"
 
+#include "internal/mirroring.h"
+#include "internal/spokenname.h"
 #include "internal/stepscroll.h"
 #include "internal/stylesheet.h"
+#include "internal/taborder.h"
 #include "ui_widgetwithscrollex.h"
 
+#include <QEvent>
 #include <QLabel>
 #include <QScrollBar>
 #include <QToolButton>
@@ -33,6 +37,7 @@ WidgetWithScrollEx::WidgetWithScrollEx(const QString &sheet, QWidget *parent)
 {
     orvane::applyStyleSheet(this, sheet); // before there are children to restyle
     m_ui->setupUi(this);
+    orvane::keepFromLeftToRight(m_ui->mainLayout);
     createScrollButton();
     initControls();
 }
@@ -43,6 +48,7 @@ void WidgetWithScrollEx::createScrollButton()
 {
     m_leftButton = new QToolButton(m_ui->leftBtnFrame);
     orvane::fillParent(m_leftButton);
+    orvane::speakAs(m_leftButton, tr("Scroll left"));
     connect(m_leftButton, &QToolButton::clicked, this, &WidgetWithScrollEx::on_leftClicked);
     orvane::applyStyleSheet(
         m_leftButton,
@@ -53,6 +59,7 @@ void WidgetWithScrollEx::createScrollButton()
 
     m_rightButton = new QToolButton(m_ui->rightBtnFrame);
     orvane::fillParent(m_rightButton);
+    orvane::speakAs(m_rightButton, tr("Scroll right"));
     connect(m_rightButton, &QToolButton::clicked, this, &WidgetWithScrollEx::on_rightClicked);
     orvane::applyStyleSheet(
         m_rightButton,
@@ -89,6 +96,7 @@ void WidgetWithScrollEx::addWidget(QWidget *w)
     QScrollArea *area = m_ui->scrollArea;
     area->setWidget(w);
     area->setFixedSize(windowWidth, windowHeight);
+    orvane::tabInOrder(QList<QWidget *>{m_leftButton} + orvane::tabStops(w) << m_rightButton);
     if (w->width() > area->width()) {
         setLeftButtonVisible(false);
         setRightButtonVisible(true);
@@ -140,4 +148,11 @@ void WidgetWithScrollEx::on_rightClicked()
     if (orvane::stepRight(m_ui->scrollArea->horizontalScrollBar(), m_position, m_rangeMaximum,
                           m_scrollSingleStepValue))
         setRightButtonVisible(false);
+}
+
+void WidgetWithScrollEx::changeEvent(QEvent *event)
+{
+    QFrame::changeEvent(event);
+    if (event->type() == QEvent::LayoutDirectionChange)
+        orvane::keepFromLeftToRight(m_ui->mainLayout);
 }

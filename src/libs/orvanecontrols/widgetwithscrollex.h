@@ -24,6 +24,9 @@ class WidgetWithScrollEx;
  *
  * The strip keeps its own record of the scroll position. Content that was scrolled by other means
  * is scrolled on from the record by the next click.
+ *
+ * The strip and its content are laid out from left to right in every language: an arrow stands at
+ * the side that it points to.
  */
 class ORVANECONTROLS_EXPORT WidgetWithScrollEx : public QFrame
 {
@@ -67,6 +70,10 @@ public Q_SLOTS:
     void on_leftClicked();
     /// Scrolls a step to the right and brings the left arrow; the last step hides the right one.
     void on_rightClicked();
+
+protected:
+    /// Keeps the arrows and the content from left to right, whatever the strip's direction.
+    void changeEvent(QEvent *event) override;
 
 private:
     friend class RowLineItem;

@@ -1,7 +1,11 @@
 #include "windowtitle.h"
 
+#include "internal/mirroring.h"
+#include "internal/spokenname.h"
 #include "internal/stylesheet.h"
+#include "internal/taborder.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -56,6 +60,7 @@ WindowTitle::WindowTitle(QSize size, QWidget *parent)
     buildButtons();
     m_mainLayout->addLayout(m_logoLayout); // refused, as the logo's layout has a parent
     m_mainLayout->addLayout(m_buttonLayout);
+    orvane::keepFromLeftToRight(m_buttonLayout);
     setLayout(m_mainLayout);
 }
 
@@ -72,6 +77,8 @@ void WindowTitle::setBtnMax(bool isMaximized)
     orvane::applyStyleSheet(
         m_maximizeButton,
         buttonSheet(isMaximized ? QStringLiteral("btn_return") : QStringLiteral("btn_max")));
+    orvane::speakAs(m_maximizeButton, isMaximized ? tr("Restore") : tr("Maximise"),
+                    isMaximized ? tr("Maximise") : tr("Restore"));
 }
 
 void WindowTitle::SetLogoImageSize(const QSize &size)
@@ -133,6 +140,14 @@ void WindowTitle::mouseDoubleClickEvent(QMouseEvent * /*event*/)
     Q_EMIT signal_mouseDoubleClickIntitle();
 }
 
+void WindowTitle::changeEvent(QEvent *event)
+{
+    QFrame::changeEvent(event);
+    // The logo is where the host has put it, at the left: the buttons must not come to lie on it.
+    if (event->type() == QEvent::LayoutDirectionChange && m_buttonLayout)
+        orvane::keepFromLeftToRight(m_buttonLayout);
+}
+
 void WindowTitle::buildLogo()
 {
     m_logoImage = new QLabel(this);
@@ -161,6 +176,11 @@ void WindowTitle::buildButtons()
     m_closeButton = makeButton(QStringLiteral("btn_close"), this);
     m_minimizeButton = makeButton(QStringLiteral("btn_mix"), this);
     m_maximizeButton = makeButton(QStringLiteral("btn_max"), this);
+
+    orvane::speakAs(m_closeButton, tr("Close"));
+    orvane::speakAs(m_minimizeButton, tr("Minimise"));
+    orvane::speakAs(m_maximizeButton, tr("Maximise"));
+    orvane::tabInOrder({m_minimizeButton, m_maximizeButton, m_closeButton});
 
     connect(m_closeButton, &QPushButton::clicked, this, &WindowTitle::signal_closeMainForm);
     connect(m_minimizeButton, &QPushButton::clicked, this, &WindowTitle::signal_minimizeMainForm);

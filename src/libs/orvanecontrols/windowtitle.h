@@ -20,6 +20,9 @@ class QPushButton;
  * The title does nothing to its window: it reports clicks and double-clicks. Presses, moves and
  * releases outside the buttons go on to its parent, so that the parent can be dragged by the title.
  *
+ * It is the same in every language: the buttons are at the right when all else is laid out from
+ * right to left, too.
+ *
  * The logo is empty until the host sets it. Its two labels are in no layout: they stay at the
  * title's top-left corner, the text over the picture. A host that shows both sets their geometry
  * itself. The construction makes Qt print two warnings about the layout that the labels do not get;
@@ -88,6 +91,8 @@ Q_SIGNALS:
 protected:
     /// Emits signal_mouseDoubleClickIntitle(), whatever the button.
     void mouseDoubleClickEvent(QMouseEvent *event) override;
+    /// Keeps the buttons at the right, whatever the direction of the layout.
+    void changeEvent(QEvent *event) override;
 
 private:
     void buildLogo();
