@@ -7,6 +7,7 @@
 #include <orvanecontrols/checkboxex.h>
 #include <orvanecontrols/comboboxex.h>
 #include <orvanecontrols/comboboxitem.h>
+#include <orvanecontrols/customlistwidgetmulitem.h>
 #include <orvanecontrols/equiplistwidget.h>
 #include <orvanecontrols/listwidgettitle.h>
 #include <orvanecontrols/nqtoolbutton.h>
@@ -16,6 +17,7 @@
 #include <orvanecontrols/tablewidgetcustom.h>
 #include <orvanecontrols/tablewidgetex.h>
 #include <orvanecontrols/toolbuttonex.h>
+#include <orvanecontrols/treeitem.h>
 #include <orvanecontrols/windowtitle.h>
 
 #include <QAction>
@@ -26,6 +28,7 @@
 #include <QIcon>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QLabel>
 #include <QPluginLoader>
 #include <QRegularExpression>
 #include <QtDesigner/abstractintegration.h>
@@ -154,7 +157,21 @@ const QVector<Expected> expectedWidgets = {
      {480, 135},
      {},
      "EquipListWidget(QString(\"Devices\"), parent)"},
+    {"CustomListWidgetMulItem",
+     lists,
+     "QWidget",
+     "customListWidgetMulItem",
+     {480, 34},
+     {},
+     "CustomListWidgetMulItem({\"COM3\", \"Sender\", \"4\", \"online\"}, parent, false)"},
     {"TreeViewEx", lists, "QTreeWidget", "treeViewEx", {220, 200}, {}, {}},
+    {"TreeItem",
+     lists,
+     "QWidget",
+     "treeItem",
+     {120, 50},
+     {},
+     "TreeItem(QString(\"Cabinet\"), QSize(500, 500), parent)"},
     {"TableWidgetEx",
      lists,
      "QTabWidget",
@@ -172,12 +189,7 @@ const QVector<Expected> expectedWidgets = {
     {"NewTableWidget", lists, "QTableWidget", "newTableWidget", {320, 160}, {}, {}},
 };
 
-const QStringList leftOut = {"CustomListWidgetMulItem",
-                             "CustomMessageBox",
-                             "ScrollBarEx",
-                             "TreeItem",
-                             "WidgetBoard",
-                             "WindowFrame"};
+const QStringList leftOut = {"CustomMessageBox", "ScrollBarEx", "WidgetBoard", "WindowFrame"};
 
 // What the guide says of code made by uic: it cannot build these, as it passes the parent alone.
 // A WindowTitle it can build, but one without its parts.
@@ -191,6 +203,8 @@ static_assert(!isBuiltFromParentAlone<ToolButtonEx>);
 static_assert(!isBuiltFromParentAlone<NQToolButton>);
 static_assert(!isBuiltFromParentAlone<ListWidgetTitle>);
 static_assert(!isBuiltFromParentAlone<EquipListWidget>);
+static_assert(!isBuiltFromParentAlone<CustomListWidgetMulItem>);
+static_assert(!isBuiltFromParentAlone<TreeItem>);
 static_assert(!isBuiltFromParentAlone<TableWidgetEx>);
 static_assert(!isBuiltFromParentAlone<TableWidgetCustom>);
 static_assert(isBuiltFromParentAlone<WindowTitle>);
@@ -389,7 +403,8 @@ private Q_SLOTS:
         }
         QCOMPARE(shown + QSet<QString>(leftOut.cbegin(), leftOut.cend()), publicClasses(true));
         // The public classes that inherit nothing are no widgets.
-        QCOMPARE(publicClasses(false), QSet<QString>({"CustomMegBox", "DefineCommonData"}));
+        QCOMPARE(publicClasses(false),
+                 QSet<QString>({"CustomMegBox", "DefineCommonData", "StyleSheetBatch"}));
     }
 
     void describesTheWidget_data() { addWidgetColumn(); }
@@ -514,6 +529,45 @@ private Q_SLOTS:
         }
         QCOMPARE(widget->size(), expected.size);
         useWidget(widget);
+    }
+
+    void rowShowsTheTextsThatItIsBuiltWith_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QStringList>("texts");
+
+        QTest::newRow("ComboboxItem") << "ComboboxItem" << QStringList("Item");
+        QTest::newRow("CustomListWidgetMulItem")
+            << "CustomListWidgetMulItem" << QStringList({"COM3", "Sender", "4", "online"});
+        QTest::newRow("TreeItem") << "TreeItem" << QStringList({"Cabinet", "500x500"});
+    }
+
+    void rowShowsTheTextsThatItIsBuiltWith()
+    {
+        QFETCH(QString, name);
+        QFETCH(QStringList, texts);
+        QUiLoader loader;
+        loader.clearPluginPaths();
+        loader.addPluginPath(QFileInfo(DESIGNER_PLUGIN).path());
+        QByteArray text = formOf(description(name));
+        QBuffer buffer(&text);
+        const std::unique_ptr<QWidget> form(loader.load(&buffer));
+        QVERIFY(form);
+        form->show();
+        const auto *row = form->findChild<QWidget *>(name.left(1).toLower() + name.mid(1));
+        QVERIFY(row);
+        QStringList found;
+        for (const QLabel *label : row->findChildren<QLabel *>()) {
+            if (label->text().isEmpty())
+                continue;
+            found << label->text();
+            // Nothing of it is cut off, at the size at which the row comes into a form.
+            QVERIFY2(row->rect().contains(label->geometry()), qPrintable(label->text()));
+            const QSize needed = label->fontMetrics().size(Qt::TextSingleLine, label->text());
+            QVERIFY2(label->width() >= needed.width(), qPrintable(label->text()));
+            QVERIFY2(row->height() >= needed.height(), qPrintable(label->text()));
+        }
+        QCOMPARE(found, texts);
     }
 
     void pagesOfTabsComeWithTheForm()

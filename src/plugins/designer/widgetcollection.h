@@ -14,8 +14,8 @@
 class WidgetCollection : public QObject, public QDesignerCustomWidgetCollectionInterface
 {
     Q_OBJECT
-    Q_PLUGIN_METADATA(IID "org.qt-project.Qt.QDesignerCustomWidgetCollectionInterface" FILE
-                          "widgetcollection.json")
+    // On one line, or CMake does not see that moc reads the file.
+    Q_PLUGIN_METADATA(IID QDesignerCustomWidgetCollectionInterface_iid FILE "widgetcollection.json")
     Q_INTERFACES(QDesignerCustomWidgetCollectionInterface)
 
 public:

@@ -5,6 +5,7 @@
 #include <orvanecontrols/comboboxex.h>
 #include <orvanecontrols/comboboxitem.h>
 #include <orvanecontrols/customlistwidgetitem.h>
+#include <orvanecontrols/customlistwidgetmulitem.h>
 #include <orvanecontrols/customwidget.h>
 #include <orvanecontrols/doublespinboxex.h>
 #include <orvanecontrols/drawer.h>
@@ -36,6 +37,7 @@
 #include <orvanecontrols/tablewidgetex.h>
 #include <orvanecontrols/toolbarex.h>
 #include <orvanecontrols/toolbuttonex.h>
+#include <orvanecontrols/treeitem.h>
 #include <orvanecontrols/treeviewex.h>
 #include <orvanecontrols/widgetcontent.h>
 #include <orvanecontrols/widgetcontrollboard.h>
@@ -127,7 +129,7 @@ void addBasicControls(QVector<WidgetRow> &rows)
     group.add<ComboBoxEx>({120, 26}, "A drop-down of texts, or of images with texts",
                           "Images come by addImageItem()");
     group.add<ComboboxItem>({120, 30}, "A row of a ComboBoxEx: an image and a text",
-                            "Fill it by setPixMap() and setText()",
+                            "Fill it by setText(); its image is fixed at construction",
                             BUILT_AS(ComboboxItem(parent, QPixmap(), QString("Item"), 0)));
 }
 
@@ -211,7 +213,14 @@ void addLists(QVector<WidgetRow> &rows)
     group.add<EquipListWidget>({480, 135}, "A list of devices under a title that folds it",
                                "Fill it by setTitle() and addCustomItem()",
                                BUILT_AS(EquipListWidget(QString("Devices"), parent)));
+    group.add<CustomListWidgetMulItem>(
+        {480, 34}, "A row of a list of devices: texts in columns",
+        "Its texts are fixed at construction; their labels come by getLabelList()",
+        BUILT_AS(CustomListWidgetMulItem({"COM3", "Sender", "4", "online"}, parent, false)));
     group.add<TreeViewEx>({220, 200}, "A tree of cabinet models", "Fill it by addTreeItem()");
+    group.add<TreeItem>({120, 50}, "A row of a tree of cabinet models: a name above a size",
+                        "Fill it by setCabinetName(); the size is fixed at construction",
+                        BUILT_AS(TreeItem(QString("Cabinet"), QSize(500, 500), parent)));
     WidgetRow &tabs = group.add<TableWidgetEx>(
         {300, 200}, "Numbered pages behind tabs",
         "Tabs that the user adds and closes are a matter of its constructor",
