@@ -1,5 +1,6 @@
 /// What the library promises about its cost; report.py compares the figures with the limits.
 
+#include "bareqt.h"
 #include "cabinetrecords.h"
 #include "controls.h"
 #include "drawer.h"
@@ -92,35 +93,53 @@ BENCHMARK(paintCabinet)->Iterations(manyPairs)->UseManualTime();
 
 constexpr int cabinetsPerRow = 8;
 
-double timePerCabinet(int count)
+template <typename Body, typename AddRow> double timePerCabinet(int count, const AddRow &addRow)
 {
     const QList<StructCabinet> records = cabinetRecords(cabinetsPerRow);
     const Stopwatch stopwatch;
     QWidget window;
-    auto *body = new DrawerItemContent(&window);
+    auto *body = new Body(&window);
     for (int i = 0; i < count / cabinetsPerRow; ++i)
-        body->addRowLineItem(1 + i % 16, PortItem, records);
+        addRow(body, 1 + i % 16, records);
     window.setFixedSize(300, body->height());
     window.show();
     QCoreApplication::processEvents();
     return stopwatch.seconds() / count;
 }
 
-void growth(benchmark::State &state)
+template <typename Body, typename AddRow>
+void measureGrowth(benchmark::State &state, const AddRow &addRow)
 {
     constexpr int few = 64;
     constexpr int many = 4096;
     // The few are measured as often as it takes to have as many.
-    const auto timeOfFew = [] {
+    const auto timeOfFew = [&] {
         constexpr int windows = 16;
         double sum = 0;
         for (int i = 0; i < windows; ++i)
-            sum += timePerCabinet(few);
+            sum += timePerCabinet<Body>(few, addRow);
         return sum / windows;
     };
-    runSideBySide(state, timeOfFew, [] { return timePerCabinet(many); });
+    runSideBySide(state, timeOfFew, [&] { return timePerCabinet<Body>(many, addRow); });
+}
+
+void growth(benchmark::State &state)
+{
+    measureGrowth<DrawerItemContent>(
+        state, [](DrawerItemContent *body, int port, const QList<StructCabinet> &records) {
+            body->addRowLineItem(port, PortItem, records);
+        });
 }
 BENCHMARK(growth)->Iterations(fewPairs)->UseManualTime();
+
+void growthOfBareQt(benchmark::State &state)
+{
+    measureGrowth<bareqt::Body>(
+        state, [](bareqt::Body *body, int port, const QList<StructCabinet> &records) {
+            body->addRow(port, records);
+        });
+}
+BENCHMARK(growthOfBareQt)->Iterations(fewPairs)->UseManualTime();
 
 // A click on the header of an item in a large drawer.
 
@@ -235,6 +254,9 @@ int main(int argc, char **argv)
             ->UseManualTime();
     }
     benchmark::RegisterBenchmark("load", load)->Iterations(manyPairs)->UseManualTime();
+    benchmark::AddCustomContext("qt", qVersion());
+    benchmark::AddCustomContext("compiler", COMPILER);
+    benchmark::AddCustomContext("build_type", BUILD_TYPE);
     RatioTable table;
     benchmark::RunSpecifiedBenchmarks(&table);
     benchmark::Shutdown();

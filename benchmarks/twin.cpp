@@ -131,6 +131,7 @@ struct Twin::Part {
     QString name;
     QString sheet;
     std::vector<Property> properties;
+    QString elidedText; ///< What is given to a control that elides, as bare Qt has to.
     bool isDisabled = false;
     bool isHidden = false;
     bool isPlaced = false;
@@ -522,6 +523,14 @@ private:
     QHash<const QWidget *, std::size_t> m_kids;
 };
 
+/// Whether setText() of the model's class elides the text.
+bool isElided(const QWidget &model)
+{
+    static const QList<QByteArray> classes{"CheckBoxEx",   "RadioButtonEx", "LabelEx",
+                                           "PushButtonEx", "ToolButtonEx",  "NQToolButton"};
+    return classes.contains(model.metaObject()->className());
+}
+
 bool isLaidOut(const QLayout &layout, const QWidget &widget)
 {
     for (int i = 0; i < layout.count(); ++i) {
@@ -542,6 +551,9 @@ PartPointer readPart(const QWidget &model)
         const std::unique_ptr<QWidget> fresh(part->make(nullptr));
         part->properties = changedProperties(model, *fresh);
     }
+    const QVariant text = model.property("text");
+    if (isElided(model) && !text.toString().isEmpty())
+        part->elidedText = text.toString();
     part->isDisabled = model.testAttribute(Qt::WA_ForceDisabled);
     part->isHidden = model.testAttribute(Qt::WA_WState_ExplicitShowHide)
         && model.testAttribute(Qt::WA_WState_Hidden);
@@ -550,6 +562,16 @@ PartPointer readPart(const QWidget &model)
     part->place = model.geometry();
     Reader(model, part.get()).read();
     return part;
+}
+
+/// Sets the text as a control that elides it does.
+void setElidedText(QWidget *widget, const QString &text)
+{
+    const QFontMetrics metrics(widget->font());
+    const int available =
+        widget->maximumWidth() < QWIDGETSIZE_MAX ? widget->width() : QWIDGETSIZE_MAX;
+    widget->setToolTip(metrics.horizontalAdvance(text) > available ? text : QString());
+    widget->setProperty("text", metrics.elidedText(text, Qt::ElideRight, available));
 }
 
 QWidget *buildPart(const Twin::Part &part, QWidget *parent, Twin::Sheets sheets)
@@ -567,6 +589,8 @@ QWidget *buildPart(const Twin::Part &part, QWidget *parent, Twin::Sheets sheets)
         each.property.write(widget, each.value);
     if (part.isPlaced)
         widget->setGeometry(part.place);
+    if (!part.elidedText.isEmpty())
+        setElidedText(widget, part.elidedText);
     if (part.isDisabled)
         widget->setEnabled(false);
     Kids kids;

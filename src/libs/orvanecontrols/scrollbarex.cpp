@@ -133,7 +133,7 @@ void ScrollBarEx::setHorizontalStyle()
 
 void ScrollBarEx::setBothStyles()
 {
-    setVerticalStyle();
+    // They go to the same bar, where the later one replaces the earlier.
     setHorizontalStyle();
 }
 
