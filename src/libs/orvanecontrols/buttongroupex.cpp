@@ -52,6 +52,7 @@ ButtonGroupEx::ButtonGroupEx(QWidget *parent)
     , m_ui(std::make_unique<Ui::ButtonGroupEx>())
 {
     m_ui->setupUi(this);
+    initStyle(); // before there are more children to restyle
     createScrollBtn();
     createAddCabnicateBtn();
     createAddRowCabnicateBtn();
@@ -62,7 +63,6 @@ ButtonGroupEx::ButtonGroupEx(QWidget *parent)
         m_ui->labelTitle,
         QStringLiteral("background:rgb(85,85,85);color:rgb(211,211,211);font:SimSun Arial;"));
     connect(bar, &QScrollBar::rangeChanged, this, &ButtonGroupEx::on_getScrollerRange);
-    initStyle();
     setMouseTracking(true);
 }
 
