@@ -245,7 +245,8 @@ int main(int argc, char **argv)
     if (benchmark::ReportUnrecognizedArguments(argc, argv))
         return EXIT_FAILURE;
     for (const Control &control : allControls()) {
-        if (!control.restyle)
+        // Selecting in a drawer is no setter: it unfolds the item each time.
+        if (!control.restyle || std::string(control.name).rfind("Drawer,", 0) == 0)
             continue;
         benchmark::RegisterBenchmark(
             ("unchanged/" + std::string(control.name)).c_str(),

@@ -128,10 +128,11 @@ def processor():
 
 
 def machine(context):
+    load = context["load_avg"][0]
+    busy = "idle" if load < 1 else f"busy with other work (load average {load:.0f})"
     return (f"{processor()} at {context['mhz_per_cpu'] / 1000:.1f} GHz, {context['num_cpus']} "
             f"cores (virtual machine), Qt {context['qt']}, {context['compiler']}, build type "
-            f"{context['build_type']}, platform offscreen; load average at the start "
-            f"{context['load_avg'][0]:.1f}")
+            f"{context['build_type']}, platform offscreen; {busy}")
 
 
 def table_of(kind, runs):
