@@ -1,6 +1,7 @@
 /// Builds, shows, hovers and extends the library's panels, each beside the same in bare Qt.
 
 #include "bareqt.h"
+#include "cabinetrecords.h"
 #include "checkboxex.h"
 #include "drawer.h"
 #include "draweritem.h"
@@ -32,28 +33,6 @@ constexpr int manyPairs = 41;
 constexpr int fewPairs = 11;
 
 using Build = std::function<void(QWidget *window)>;
-
-StructCabinet cabinetRecord(int number)
-{
-    StructCabinet record{};
-    record.cabinetSize = number % 2 == 0 ? QSize(128, 96) : QSize(64, 128);
-    record.cabinetCount = 1 + number % 9;
-    record.cabinetweight = 5;
-    record.cabinetpower = 0.5;
-    record.cabinetVoltage = 5;
-    record.cabinetuisize = 50;
-    record.cabinetuiHsize = 50;
-    record.cabinetPointspace = 1;
-    return record;
-}
-
-QList<StructCabinet> cabinetRecords(int count)
-{
-    QList<StructCabinet> records;
-    for (int i = 0; i < count; ++i)
-        records.append(cabinetRecord(i));
-    return records;
-}
 
 QString deviceName(int number)
 {

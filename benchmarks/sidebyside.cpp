@@ -75,8 +75,9 @@ void setStyleEvents(benchmark::State &state, int count)
 
 bool RatioTable::ReportContext(const Context &context)
 {
-    std::printf("%-*s %6s %14s %14s %7s %13s\n", int(context.name_field_width), "", "pairs",
-                "reference (ms)", "library (ms)", "ratio", "style events");
+    m_nameWidth = int(context.name_field_width);
+    std::printf("%-*s %6s %14s %14s %7s %13s\n", m_nameWidth, "", "pairs", "reference (ms)",
+                "library (ms)", "ratio", "style events");
     return true;
 }
 
@@ -87,7 +88,7 @@ void RatioTable::ReportRuns(const std::vector<Run> &runs)
         benchmark::BenchmarkName name = run.run_name;
         name.iterations.clear();
         name.time_type.clear();
-        std::printf("%-24s ", name.str().c_str());
+        std::printf("%-*s ", m_nameWidth, name.str().c_str());
         if (run.error_occurred) {
             m_hasErrors = true;
             std::printf("not measured: %s\n", run.error_message.c_str());

@@ -38,6 +38,7 @@ public:
     bool hasErrors() const;
 
 private:
+    int m_nameWidth = 0;
     bool m_hasErrors = false;
 };
 

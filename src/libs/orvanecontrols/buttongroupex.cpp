@@ -57,6 +57,7 @@ ButtonGroupEx::ButtonGroupEx(QWidget *parent)
 {
     m_ui->setupUi(this);
     orvane::keepFromLeftToRight(m_ui->mainLayout);
+    initStyle(); // before there are more children to restyle
     createScrollBtn();
     createAddCabnicateBtn();
     createAddRowCabnicateBtn();
@@ -68,7 +69,6 @@ ButtonGroupEx::ButtonGroupEx(QWidget *parent)
         m_ui->labelTitle,
         QStringLiteral("background:rgb(85,85,85);color:rgb(211,211,211);font:SimSun Arial;"));
     connect(bar, &QScrollBar::rangeChanged, this, &ButtonGroupEx::on_getScrollerRange);
-    initStyle();
     setMouseTracking(true);
 }
 

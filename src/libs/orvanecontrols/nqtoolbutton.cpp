@@ -45,15 +45,16 @@ void NQToolButton::createButtonByType(ToolButtonType type)
     case ImageAboveCaption:
         setMinimumSize(m_minimumWidth, m_minimumHeight);
         initTopToBottomParam();
+        // Before there are labels: a sheet set later is gone through for each of them anew.
+        setTopToBottomStyle();
         if (!layout())
             createTopToBottomLabels();
-        setTopToBottomStyle();
         break;
     case ImageBesideImage:
         initLeftToRightParam();
+        setLeftToRightStyle();
         if (!layout())
             createLeftToRightLabels();
-        setLeftToRightStyle();
         break;
     }
 }

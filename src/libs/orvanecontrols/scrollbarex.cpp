@@ -88,51 +88,56 @@ void ScrollBarEx::setVerticalStyle()
 
 void ScrollBarEx::setHorizontalStyle()
 {
-    if (!m_target)
-        return;
+    if (m_target)
+        orvane::applyStyleSheet(m_target, horizontalSheet());
+}
+
+QString ScrollBarEx::horizontalSheet()
+{
     const QString height = QString::number(m_scrollHeight);
     const QString margin = QString::number(m_scrollBarMargin);
     const QString radius = QString::number(m_borderRadius);
     const QString color = fromColorToStr(m_scrollColor);
     const QString iconSize = "width:" + QString::number(m_iconWidth)
         + "px;height:" + QString::number(m_iconHeight) + "px;";
-    orvane::applyStyleSheet(
-        m_target,
-        "QScrollBar:horizontal{height:" + height + "px;background:" + color
-            + ";padding-left:" + height + "px;padding-right:" + height
-            + "px;}"
-              "QScrollBar::handle:horizontal{background:"
-            + fromColorToStr(m_scrollHandleColor) + ";border-radius:" + radius
-            + "px; height:" + QString::number(m_scrollBarHeight) + "px;margin-top:" + margin
-            + ";margin-bottom:" + margin + "; min-width:"
-            + QString::number(m_handerMinWidth)
-            // Hosts rely on the hovered handle naming the least height, not the least width.
-            + "px;}"
-              "QScrollBar::handle:horizontal:hover{background:"
-            + fromColorToStr(m_scrollHandlePressedColor) + ";border-radius:" + radius
-            + "px;min-height:" + QString::number(m_handerMinHeight)
-            + "px;}"
-              "QScrollBar::add-line:horizontal{"
-            + iconSize + arrowImage(m_isLoadImg, "right_normal")
-            + "subcontrol-position:right;}"
-              "QScrollBar::add-page:horizontal{background:"
-            + color
-            + ";}"
-              "QScrollBar::sub-page:horizontal{background:"
-            + color
-            + ";}"
-              "QScrollBar::add-line:horizontal:pressed{"
-            + iconSize + arrowImage(m_isLoadImg, "right_pressed")
-            + "subcontrol-position:right;}"
-              "QScrollBar::sub-line:horizontal{"
-            + iconSize + arrowImage(m_isLoadImg, "left_normal")
-            + "subcontrol-position:left;}"
-              "QScrollBar::sub-line:horizontal:pressed{"
-            + iconSize + arrowImage(m_isLoadImg, "left_pressed") + "subcontrol-position:left;}");
+    return "QScrollBar:horizontal{height:" + height + "px;background:" + color
+        + ";padding-left:" + height + "px;padding-right:" + height
+        + "px;}"
+          "QScrollBar::handle:horizontal{background:"
+        + fromColorToStr(m_scrollHandleColor) + ";border-radius:" + radius
+        + "px; height:" + QString::number(m_scrollBarHeight) + "px;margin-top:" + margin
+        + ";margin-bottom:" + margin + "; min-width:"
+        + QString::number(m_handerMinWidth)
+        // Hosts rely on the hovered handle naming the least height, not the least width.
+        + "px;}"
+          "QScrollBar::handle:horizontal:hover{background:"
+        + fromColorToStr(m_scrollHandlePressedColor) + ";border-radius:" + radius
+        + "px;min-height:" + QString::number(m_handerMinHeight)
+        + "px;}"
+          "QScrollBar::add-line:horizontal{"
+        + iconSize + arrowImage(m_isLoadImg, "right_normal")
+        + "subcontrol-position:right;}"
+          "QScrollBar::add-page:horizontal{background:"
+        + color
+        + ";}"
+          "QScrollBar::sub-page:horizontal{background:"
+        + color
+        + ";}"
+          "QScrollBar::add-line:horizontal:pressed{"
+        + iconSize + arrowImage(m_isLoadImg, "right_pressed")
+        + "subcontrol-position:right;}"
+          "QScrollBar::sub-line:horizontal{"
+        + iconSize + arrowImage(m_isLoadImg, "left_normal")
+        + "subcontrol-position:left;}"
+          "QScrollBar::sub-line:horizontal:pressed{"
+        + iconSize + arrowImage(m_isLoadImg, "left_pressed") + "subcontrol-position:left;}";
 }
 
 void ScrollBarEx::setBothStyles()
 {
+    // Of two sheets for one bar the later is in force. Where it is already, nothing has changed.
+    if (m_target && m_target->styleSheet() == horizontalSheet())
+        return;
     setVerticalStyle();
     setHorizontalStyle();
 }

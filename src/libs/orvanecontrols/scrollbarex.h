@@ -128,6 +128,7 @@ public:
 
 private:
     void setBothStyles();
+    QString horizontalSheet();
 
     QScrollBar *m_target = nullptr;
     int m_scrollWidth = 0;

@@ -83,15 +83,16 @@ void ToolButtonEx::createButtonByType(ButtonType type)
     switch (type) {
     case LeftToRightType:
         initLeftToRightParam();
+        // Before there are labels: a sheet set later is gone through for each of them anew.
+        setLeftToRightStyle();
         if (!layout())
             createLeftToRightLabels();
-        setLeftToRightStyle();
         break;
     case TopToBottomType:
         initTopToBottomParam();
+        setTopToBottomStyle();
         if (!layout())
             createTopToBottomLabels();
-        setTopToBottomStyle();
         break;
     case CabinetType:
     case CabinetModelType:

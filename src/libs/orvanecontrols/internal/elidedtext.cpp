@@ -9,7 +9,12 @@ namespace orvane
 QString elideWithToolTip(QWidget *widget, const QString &text, int available)
 {
     const QFontMetrics metrics(widget->font());
-    widget->setToolTip(metrics.horizontalAdvance(text) > available ? text : QString());
+    const int width = metrics.horizontalAdvance(text);
+    widget->setToolTip(width > available ? text : QString());
+    // Measuring costs most. A width is rounded, so only a narrower text fits for sure; and Qt takes
+    // a text with this mark for several, of which it chooses one.
+    if (width < available && !text.contains(QChar(0x9c)))
+        return text;
     return metrics.elidedText(text, Qt::ElideRight, available);
 }
 

@@ -1,0 +1,206 @@
+#!/usr/bin/python3
+"""Reads what the benchmarks of ./dev bench have measured.
+
+  report.py targets FOLDER     print each target with its figure, PASS or MISSED
+  report.py page FOLDER FILE   write the page of figures for docs/
+
+FOLDER has the JSON files panels.json, controls.json and targets.json.  A target that was not
+measured, as when ./dev bench was given a filter, says so.
+"""
+
+import json
+import re
+import sys
+from pathlib import Path
+
+SHOW_LIMIT = 1.03
+UNCHANGED_LIMIT = 0.1
+PAINT_LIMIT = 1.5
+LOAD_LIMIT_MS = 5
+GROWTH_LIMIT = 1.15
+CLICK_LIMIT_MS = 16
+
+QUANTITIES = {
+    "show": ("Construct and show", "µs", "from the constructor until the first paint is done"),
+    "restyle": ("Restyle", "µs", "a setter with another value, or a polish where there is none"),
+    "paint": ("Paint", "µs", "rendered into an image"),
+    "memory": ("Memory", "bytes", "of the heap, shown"),
+}
+MILLISECONDS = 1000
+
+
+def read(folder, name):
+    """The context, and the runs by their names without the number of iterations."""
+    path = Path(folder) / f"{name}.json"
+    if not path.is_file() or not path.stat().st_size:
+        return {}, {}
+    data = json.loads(path.read_text(encoding="utf-8"))
+    runs = {re.sub(r"/(iterations:\d+|manual_time)", "", run["name"]): run
+            for run in data["benchmarks"] if "error_occurred" not in run}
+    return data["context"], runs
+
+
+def is_same(run):
+    """Whether bare Qt has the same parts as the control."""
+    return not run.get("label") or is_painted(run)
+
+
+def is_painted(run):
+    """Whether they differ only in what the control paints by hand."""
+    return run.get("label", "").endswith("the pictures differ")
+
+
+def of_kind(runs, kind):
+    return {name.split("/", 1)[1]: run for name, run in runs.items()
+            if name.startswith(kind + "/")}
+
+
+class Target:
+    """A limit, and what was measured by name."""
+
+    def __init__(self, text, limit, figures, unit=""):
+        self.text = text
+        self.limit = limit
+        self.figures = figures
+        self.unit = unit
+
+    def missed(self):
+        return {name: figure for name, figure in self.figures.items() if figure > self.limit}
+
+    def verdict(self):
+        if not self.figures:
+            return "not measured"
+        return "MISSED" if self.missed() else "PASS"
+
+    def summary(self):
+        if not self.figures:
+            return ""
+        figures = sorted(self.figures.values())
+        if len(figures) == 1:
+            return f"{figures[0]:.3g}{self.unit}"
+        return (f"{figures[0]:.3g} to {figures[-1]:.3g}{self.unit}, median "
+                f"{figures[len(figures) // 2]:.3g}; {len(figures) - len(self.missed())} of "
+                f"{len(figures)} within")
+
+
+def targets(folder):
+    panels = read(folder, "panels")[1]
+    controls = read(folder, "controls")[1]
+    promises = read(folder, "targets")[1]
+
+    def ratio(name):
+        return {name: promises[name]["ratio"]} if name in promises else {}
+
+    def milliseconds(name):
+        return {name: MILLISECONDS * promises[name]["library_s"]} if name in promises else {}
+
+    shows = {name: run["per_bare"] for name, run in of_kind(controls, "show").items()
+             if is_same(run)}
+    shows.update({name: run["ratio"] for name, run in panels.items() if name.startswith("show")})
+    unchanged = {name: run["ratio"] for name, run in of_kind(promises, "unchanged").items()}
+    return [
+        Target("construct and show, of bare Qt with the same sheets", SHOW_LIMIT, shows),
+        Target("ten setters with unchanged values, of one with another value", UNCHANGED_LIMIT,
+               unchanged),
+        Target("painting a cabinet, of a bare tool button with its sheet", PAINT_LIMIT,
+               ratio("paintCabinet")),
+        Target("loading the library", LOAD_LIMIT_MS, milliseconds("load"), " ms"),
+        Target("each of 4,096 cabinets, of each of 64", GROWTH_LIMIT, ratio("growth")),
+        Target("a click on a drawer of 64 items with 16 rows of 8 cabinets", CLICK_LIMIT_MS,
+               milliseconds("click"), " ms"),
+    ]
+
+
+def print_targets(folder):
+    print("Targets")
+    for target in targets(folder):
+        print(f"  {target.verdict():<7} {target.text}: at most {target.limit}{target.unit}; "
+              f"measured {target.summary() or 'nothing'}")
+        missed = target.missed() if len(target.figures) > 1 else {}
+        for name, figure in sorted(missed.items(), key=lambda entry: -entry[1]):
+            print(f"            {figure:.3f}  {name}")
+
+
+def processor():
+    text = Path("/proc/cpuinfo").read_text(encoding="utf-8")
+    model = re.search(r"^model name\s*: (.*)$", text, re.M)
+    return model.group(1).strip() if model else "unknown"
+
+
+def machine(context):
+    load = context["load_avg"][0]
+    busy = "idle" if load < 1 else f"busy with other work (load average {load:.0f})"
+    return (f"{processor()} at {context['mhz_per_cpu'] / 1000:.1f} GHz, {context['num_cpus']} "
+            f"cores (virtual machine), Qt {context['qt']}, {context['compiler']}, build type "
+            f"{context['build_type']}, platform offscreen; {busy}")
+
+
+def table_of(kind, runs):
+    title, unit, what = QUANTITIES[kind]
+    lines = [f"\n## {title}\n", f"In {unit}, {what}.\n",
+             f"| Control | {unit} | of bare Qt | of stock Qt | of stock Qt, dark |",
+             "|---|---:|---:|---:|---:|"]
+    for name, run in runs.items():
+        bare = f"{run['per_bare']:.2f}" if is_same(run) else "–"
+        mark = " *" if is_painted(run) else ""
+        lines.append(f"| {name} | {run['library']:,.0f} | {bare}{mark} | {run['per_stock']:.2f} | "
+                     f"{run['per_dark']:.2f} |")
+    return lines
+
+
+PAGE = """\
+# Performance
+
+What the controls cost, beside the same work without the library. `./dev bench --table` measures it
+and writes this page.
+
+Machine: {machine}.
+
+- *Bare Qt* is the same tree of Qt's own widgets with the same properties, layouts, items and sheets,
+  each set once. Before it is measured it is compared with the control, widget by widget and picture
+  by picture. A dash stands where the tree is not the same, a star where it is, but the control
+  paints something by hand that bare Qt leaves out.
+- *Stock Qt* is that tree without any sheet: Qt's own look. It is no dark look; the figure is the
+  price of a look by style sheets.
+- *Stock Qt, dark* is that tree under one dark sheet of 100 rules for the whole application,
+  `benchmarks/dark.qss`.
+
+All are measured in turns in one run. A ratio is the median of the rounds' ratios, a time is the
+median of processor times. Below 1 the library is the cheaper one. What can be seen is not the same
+on all sides but the first, so the tables compare costs, not looks.
+
+## Targets
+
+| Target | Limit | Measured | |
+|---|---:|---|---|
+{targets}
+
+The library is loaded by `dlopen` into a new process that has Qt and an application, until the images
+are registered. The click is a mouse event to the window, until the new state is painted. The
+cabinets lie in rows of eight, and all are in sight.
+"""
+
+
+def write_page(folder, target):
+    context = read(folder, "targets")[0]
+    controls = read(folder, "controls")[1]
+    rows = "\n".join(f"| {each.text} | {each.limit}{each.unit} | {each.summary()} | "
+                     f"{each.verdict()} |" for each in targets(folder))
+    lines = [PAGE.format(machine=machine(context), targets=rows).rstrip()]
+    for kind in QUANTITIES:
+        lines += table_of(kind, of_kind(controls, kind))
+    Path(target).write_text("\n".join(lines) + "\n", encoding="utf-8")
+
+
+def main():
+    arguments = sys.argv[1:]
+    if len(arguments) == 2 and arguments[0] == "targets":
+        print_targets(arguments[1])
+    elif len(arguments) == 3 and arguments[0] == "page":
+        write_page(*arguments[1:])
+    else:
+        sys.exit(__doc__)
+
+
+if __name__ == "__main__":
+    main()
