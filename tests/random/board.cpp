@@ -34,7 +34,7 @@ Entry shapeWidget()
 {
     return Table<ShapeWidget>("ShapeWidget",
                               [](Life &life) { return new ShapeWidget(life.parentOrNone()); })
-        .call(NAMED(ShapeWidget, createTriggleBtn))
+        .call(NAMED(ShapeWidget, createTriggleBtn), Again::Grows)
         .call(NAMED(ShapeWidget, initStyle))
         .call(NAMED(ShapeWidget, setScrollBarStyle))
         .call(NAMED(ShapeWidget, addWidget), Again::Grows)

@@ -310,7 +310,8 @@ void showOrHide(Life &life)
 
 void resize(Life &life)
 {
-    life.widget()->resize(life.value<QSize>());
+    // Qt takes sizes below nothing as they are.
+    life.widget()->resize(life.value<QSize>().expandedTo(QSize(0, 0)));
 }
 
 void move(Life &life)
@@ -340,8 +341,14 @@ void grab(Life &life)
     QWidget *widget = life.widget();
     if (!isPaintable(widget))
         return;
+    // Once more, as the first picture may find out what size the widget needs.
+    widget->grab();
+    if (life.widget() != widget || !isPaintable(widget))
+        return;
     const QPixmap picture = widget->grab();
-    if (life.widget() == widget && picture.size() != widget->size() * picture.devicePixelRatio())
+    if (life.widget() != widget || (widget->size().isEmpty() && picture.isNull()))
+        return;
+    if (picture.size() != widget->size() * picture.devicePixelRatio())
         protocol::fail("grab() gives another size than the widget's");
 }
 

@@ -123,10 +123,11 @@ void Life::driveInnerLoop()
 {
     if (QThread::currentThread()->loopLevel() == 0)
         return;
-    QDrag::cancel();
     auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
-    if (!dialog)
+    if (!dialog) {
+        QDrag::cancel();
         return;
+    }
     const QList<QAbstractButton *> buttons = dialog->findChildren<QAbstractButton *>();
     switch (m_dice.below(buttons.isEmpty() ? 3 : 5)) {
     case 0:

@@ -257,7 +257,7 @@ Entry newTableWidget()
         .call(NAMED(NewTableWidget, initTable))
         .call(NAMED(NewTableWidget, initTableStyle))
         .call(NAMED(NewTableWidget, setAddCheckBoxVisible))
-        .call(NAMED(NewTableWidget, createCheckBoxColumn))
+        .call(NAMED(NewTableWidget, createCheckBoxColumn), Again::Grows)
         .call(NAMED(NewTableWidget, on_notifyStateChange))
         .call(NAMED(NewTableWidget, on_valueChange));
 }

@@ -33,7 +33,7 @@ bool isForSubject(const Life &life, const QObject *object)
         if (each == object)
             return false;
     }
-    return true;
+    return !object->inherits("QAbstractScrollArea");
 }
 
 } // namespace randomuse

@@ -3,6 +3,8 @@
 
 #include "life.h"
 
+#include <cstring>
+
 class CustomListWidgetMulItem;
 class ToolButtonEx;
 
@@ -21,7 +23,7 @@ template <> ToolButtonEx *newObject(Life &life);
 template <> CustomListWidgetMulItem *newObject(Life &life);
 
 /// Whether \a object may be handed to a function of the subject at all: neither the subject nor
-/// what it stands in.
+/// what it stands in, nor an area that it may be using to show things.
 bool isForSubject(const Life &life, const QObject *object);
 
 /// A new object, one made before, one that the subject itself made of the library's classes, or
@@ -36,8 +38,9 @@ template <class T> T *anyObject(Life &life)
     }
     if (dice.chance(50)) {
         object = life.kept<T>();
-        const bool isQts = T::staticMetaObject.className()[0] == 'Q';
-        if (!isQts && dice.chance(60)) {
+        // Other classes are also what the subject itself is made of, which no host hands it.
+        const bool isItem = strstr(T::staticMetaObject.className(), "Item");
+        if (isItem && dice.chance(60)) {
             const QList<T *> own = life.subject()->findChildren<T *>();
             object = own.isEmpty() ? object : own.at(dice.below(own.size()));
         }
