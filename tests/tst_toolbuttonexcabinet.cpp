@@ -1087,6 +1087,8 @@ private Q_SLOTS:
                               type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton,
                               Qt::NoModifier);
             QApplication::sendEvent(button, &event);
+            // An event that is not ignored goes no further.
+            QVERIFY(guard || event.isAccepted());
         }
         QVERIFY(guard.isNull());
     }
