@@ -22,6 +22,7 @@ const QVector<Exclusion> &members()
         {"QWidget", "geometry", "common actions resize to sizes that can be painted"},
         {"QWidget", "minimumWidth", "Qt paints millions of pixels; common actions resize"},
         {"QWidget", "minimumHeight", "Qt paints millions of pixels; common actions resize"},
+        {"QWidget", "pos", "Qt's rectangles overflow at the ends of int; common actions move"},
         {"QWidget", "size", "common actions resize to sizes that can be painted"},
         {"QWidget", "styleSheet", "the library's classes own their sheets; the room has one"},
         {"QWidget", "setStyleSheet", "the library's classes own their sheets; the room has one"},
