@@ -127,7 +127,8 @@ Entry nQTabBar()
                 const int index = life.index(subject->count());
                 // Qt keeps the widget without watching it: one of the tab's own.
                 subject->setTabButton(index, buttonPosition(life),
-                                      life.dice().chance(20) ? nullptr : new QPushButton("x"));
+                                      life.dice().chance(20) ? nullptr
+                                                             : life.keep(new QPushButton("x")));
             },
             Again::Grows)
         .act("tabButton",
