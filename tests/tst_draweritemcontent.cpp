@@ -7,6 +7,8 @@
 #include <rowlineitem.h>
 #include <toolbuttonex.h>
 
+#include <limits>
+
 namespace
 {
 
@@ -163,6 +165,14 @@ private Q_SLOTS:
         content.addRowLineItem(1, PortItem, {});
         QCOMPARE(content.index(), 11);
         QCOMPARE(content.height(), 74);
+    }
+
+    void theIndexStaysAtTheLastNumber()
+    {
+        DrawerItemContent body;
+        body.setIndex(std::numeric_limits<int>::max());
+        body.addRowLineItem(1, PortItem, {});
+        QCOMPARE(body.index(), std::numeric_limits<int>::max());
     }
 
     void theListIsThatOfTheHost()

@@ -180,6 +180,21 @@ private Q_SLOTS:
         QTest::newRow("by adding another checked one") << true;
     }
 
+    void hugeButtonsAndGapsEndAtTheLimit()
+    {
+        MutexButtonEx strip;
+        constexpr int huge = 1000000000;
+        strip.setButtonWidth(huge);
+        strip.setButtonSpace(huge);
+        ToolButtonEx *last = nullptr;
+        for (int i = 0; i < 4; ++i) {
+            last = new ToolButtonEx(&strip, DefaultType, QString(), QString());
+            strip.addButton(last);
+        }
+        QCOMPARE(last->x(), QWIDGETSIZE_MAX);
+        QCOMPARE(strip.width(), QWIDGETSIZE_MAX);
+    }
+
     void canBeDeletedWhenAButtonIsChecked()
     {
         QFETCH(bool, isAdded);

@@ -5,6 +5,8 @@
 #include <QButtonGroup>
 #include <radiobuttonex.h>
 
+#include <limits>
+
 namespace
 {
 
@@ -402,6 +404,19 @@ private Q_SLOTS:
         QCOMPARE(meta.methodOffset(), meta.methodCount());
         QCOMPARE(meta.propertyOffset(), meta.propertyCount());
         QCOMPARE(QByteArray(meta.superClass()->className()), QByteArray("QRadioButton"));
+    }
+
+    // Their sum is no int; what is left for the text would be without end.
+    void hugeSpaceAndIndicatorLeaveNoRoom()
+    {
+        RadioButtonEx button;
+        button.resize(50, 20);
+        button.setSpace(std::numeric_limits<int>::max());
+        button.setIndicatorWidth(1000000000);
+        const QString text(200, 'w');
+        button.setText(text);
+        QCOMPARE(button.toolTip(), text);
+        QVERIFY(static_cast<QRadioButton &>(button).text().size() < text.size());
     }
 
     void diesWithItsParentOrBefore()

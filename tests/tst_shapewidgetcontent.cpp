@@ -3,6 +3,8 @@
 
 #include <shapewidgetcontent.h>
 
+#include <limits>
+
 namespace
 {
 
@@ -288,6 +290,17 @@ private Q_SLOTS:
         QVERIFY(clicked.isNull());
         QCOMPARE(content.isNull(), isGrid);
         delete content;
+    }
+
+    void anyNumberOfColumnsIsTaken()
+    {
+        ShapeWidgetContent grid;
+        grid.setColumn(std::numeric_limits<int>::max());
+        auto *button = new QPushButton;
+        button->resize(30, 20);
+        grid.setLsWidget({button});
+        QCOMPARE(grid.width(), QWIDGETSIZE_MAX);
+        QVERIFY(grid.height() >= 20 && grid.height() < 100);
     }
 
     void gridOwnsItsWidgets()

@@ -5,6 +5,8 @@
 
 #include <tablewidgetcustom.h>
 
+#include <limits>
+
 namespace
 {
 
@@ -304,6 +306,28 @@ private Q_SLOTS:
         table.setTableContentCenter();
         table.resize(400, 300);
         QCOMPARE(rowTexts(table), (QStringList{"a1 a2 a3 a4", "b1 b2 b3 b4"}));
+    }
+
+    void countsBeyondTheTableCostNothing()
+    {
+        TableWidgetCustom table({}, {"one"}, 2, 1);
+        table.setTableRowCount(std::numeric_limits<int>::max());
+        table.setTableColumnCount(std::numeric_limits<int>::max());
+        QElapsedTimer clock;
+        clock.start();
+        table.updateUi({});
+        table.setTableContentCenter();
+        // Cell by cell it would take hours.
+        QVERIFY2(clock.elapsed() < 10000, qPrintable(QString::number(clock.elapsed())));
+    }
+
+    // The sanitizers tell of a row before the first number.
+    void leastCountMakesNoRow()
+    {
+        TableWidgetCustom table({}, {"one"}, 2, 1);
+        table.setTableRowCount(std::numeric_limits<int>::min());
+        table.insertHotBackUpInfo(BackUpParam());
+        QCOMPARE(table.rowCount(), 2);
     }
 
     void fewerOrMoreColumnsThanTexts_data()

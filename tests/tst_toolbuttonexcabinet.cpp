@@ -1066,6 +1066,47 @@ private Q_SLOTS:
             QCOMPARE(received.mid(0, 13), fields(filledRecord()).mid(0, 13));
     }
 
+    // Outside itself a button ignores the release, which Qt would hand on to its parent.
+    void canBeDeletedWhenReleasedOutside()
+    {
+        QWidget panel;
+        panel.resize(200, 200);
+        auto *button = new Button(CabinetType, &panel);
+        button->resize(50, 50);
+        button->setIsDrawCabinetCount(true);
+        QVERIFY(pointer::showAndWait(&panel));
+        const QPointer<Button> guard(button);
+        connect(button, &ToolButtonEx::signal_notifyAddBeenTakenCabinetModel, this,
+                [&] { delete button; });
+        const QPoint outside(70, 20);
+        for (const QEvent::Type type :
+             {QEvent::MouseButtonPress, QEvent::MouseMove, QEvent::MouseButtonRelease}) {
+            const bool isPress = type == QEvent::MouseButtonPress;
+            QMouseEvent event(type, isPress ? QPoint(5, 5) : outside,
+                              type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton,
+                              type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton,
+                              Qt::NoModifier);
+            QApplication::sendEvent(button, &event);
+            // An event that is not ignored goes no further.
+            QVERIFY(guard || event.isAccepted());
+        }
+        QVERIFY(guard.isNull());
+    }
+
+    // While the left button is held, a press of another button is ignored and reported.
+    void canBeDeletedByAnotherButtonsPress()
+    {
+        QWidget panel;
+        auto *button = new Button(CabinetType, &panel);
+        button->setIsDrawCabinetCount(true);
+        const QPointer<Button> guard(button);
+        connect(button, &ToolButtonEx::signal_notifyChangedPortInfo, this, [&] { delete button; });
+        QMouseEvent press(QEvent::MouseButtonPress, QPoint(5, 5), Qt::RightButton,
+                          Qt::LeftButton | Qt::RightButton, Qt::NoModifier);
+        QApplication::sendEvent(button, &press);
+        QVERIFY(guard.isNull());
+    }
+
     // Cabinets lie in rows by the hundred: a pointer that crosses them costs no style work.
     void hoverDoesNoStyleWork_data() { kindRows(); }
 

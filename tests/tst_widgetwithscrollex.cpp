@@ -3,6 +3,8 @@
 
 #include <widgetwithscrollex.h>
 
+#include <limits>
+
 namespace
 {
 
@@ -469,6 +471,27 @@ private Q_SLOTS:
         QTest::mouseClick(strip.windowHandle(), Qt::LeftButton, Qt::NoModifier,
                           item->mapTo(&strip, QPoint(30, 30)));
         QVERIFY(widget.isNull());
+    }
+
+    void anyStepIsTaken()
+    {
+        WidgetWithScrollEx strip;
+        auto *content = new QWidget;
+        content->resize(500, 40);
+        strip.addWidget(content);
+        QVERIFY(pointer::showAndWait(&strip));
+        const int end = area(strip)->horizontalScrollBar()->maximum();
+        QVERIFY(end > 0);
+        // Backwards to the left is to the right: the record ends where its numbers end.
+        strip.setScrollSingleStepValue(std::numeric_limits<int>::min());
+        strip.on_leftClicked();
+        QCOMPARE(scrolledBy(strip), end);
+        strip.on_leftClicked();
+        QCOMPARE(scrolledBy(strip), end);
+        strip.on_rightClicked();
+        strip.on_rightClicked();
+        strip.on_rightClicked();
+        QCOMPARE(scrolledBy(strip), 0);
     }
 
     void contentDiesWithTheStrip()

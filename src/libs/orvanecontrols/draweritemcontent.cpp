@@ -6,6 +6,8 @@
 
 #include <QVBoxLayout>
 
+#include <limits>
+
 DrawerItemContent::DrawerItemContent(QWidget *parent)
     : QWidget(parent)
 {
@@ -46,7 +48,9 @@ void DrawerItemContent::addRowLineItem(int portIndex, ItemType type, QList<Struc
     if (layout()->count() != m_rows.size())
         orvane::dropDeleted(m_rows);
     layout()->addWidget(row);
-    ++m_index;
+    // Hosts may begin at any number; at the last one the count stays.
+    if (m_index < std::numeric_limits<int>::max())
+        ++m_index;
     m_rows.append(row);
     setFixedHeight(m_rows.size() * row->height());
 }

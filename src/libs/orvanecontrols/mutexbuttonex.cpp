@@ -21,16 +21,19 @@ void MutexButtonEx::addButton(ToolButtonEx *button)
     if (!button)
         return;
     button->setCheckable(true);
-    const int left = (m_buttonWidth + m_buttonSpace) * m_buttonGroup->buttons().size();
-    button->setGeometry(left, 0, m_buttonWidth, m_buttonHeight);
+    // Any numbers are taken: places and sizes end at Qt's limit.
+    const qint64 limit = QWIDGETSIZE_MAX;
+    const qint64 left = (qint64(m_buttonWidth) + m_buttonSpace) * m_buttonGroup->buttons().size();
+    button->setGeometry(int(qBound(-limit, left, limit)), 0, m_buttonWidth, m_buttonHeight);
     // A checked button unchecks another, and its host may delete the strip on that.
     const QPointer<MutexButtonEx> self(this);
     m_buttonGroup->addButton(button);
     if (!self)
         return;
     // One pixel a button more than the buttons take, and the gap but once: hosts rely on the width.
-    const int count = m_buttonGroup->buttons().size();
-    const QSize size(count * m_buttonWidth + count - m_buttonSpace, m_buttonHeight);
+    const qint64 count = m_buttonGroup->buttons().size();
+    const qint64 width = count * m_buttonWidth + count - m_buttonSpace;
+    const QSize size(int(qBound(-limit, width, limit)), m_buttonHeight);
     setFixedSize(size.expandedTo(QSize(0, 0)));
 }
 

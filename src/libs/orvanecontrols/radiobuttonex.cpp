@@ -112,8 +112,10 @@ void RadioButtonEx::setText(const QString &text)
 void RadioButtonEx::textChange(const QString &text)
 {
     m_shownText = text;
-    const int reservedWidth = m_space + m_indicatorWidth;
-    const int available = reservedWidth < width() ? width() - reservedWidth : width();
+    // Any numbers are taken, whose sum need not be an int.
+    const qint64 reservedWidth = qint64(m_space) + m_indicatorWidth;
+    const qint64 left = reservedWidth < width() ? width() - reservedWidth : width();
+    const int available = int(qMin<qint64>(left, QWIDGETSIZE_MAX));
     QRadioButton::setText(orvane::elideWithToolTip(this, text, available));
 }
 

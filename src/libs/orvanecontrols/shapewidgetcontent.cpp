@@ -71,16 +71,18 @@ void ShapeWidgetContent::createWidgetLayout()
     // Hosts rely on the size: the widths of the first widgets, as many as there are columns, and
     // the heights of the first widgets, as many as there are rows.
     const auto first = m_lsWidget.cbegin();
-    const int widths =
-        std::accumulate(first, first + qMin(m_column, count), 0,
-                        [](int sum, const QPointer<QWidget> &w) { return sum + w->width(); });
-    const int heights =
-        std::accumulate(first, first + rows, 0,
-                        [](int sum, const QPointer<QWidget> &w) { return sum + w->height(); });
+    const qint64 widths =
+        std::accumulate(first, first + qMin(m_column, count), qint64(0),
+                        [](qint64 sum, const QPointer<QWidget> &w) { return sum + w->width(); });
+    const qint64 heights =
+        std::accumulate(first, first + rows, qint64(0),
+                        [](qint64 sum, const QPointer<QWidget> &w) { return sum + w->height(); });
     const QMargins margins = m_gridLayout->contentsMargins();
-    const int spacing = m_gridLayout->spacing();
-    resize(widths + (m_column - 1) * spacing + margins.left() + margins.right(),
-           heights + (rows - 1) * spacing + margins.top() + margins.bottom());
+    // Any number of columns is taken; no widget is larger than Qt's limit.
+    const qint64 spacing = m_gridLayout->spacing();
+    const qint64 width = widths + (m_column - 1) * spacing + margins.left() + margins.right();
+    const qint64 height = heights + (rows - 1) * spacing + margins.top() + margins.bottom();
+    resize(int(qMin<qint64>(width, QWIDGETSIZE_MAX)), int(qMin<qint64>(height, QWIDGETSIZE_MAX)));
 }
 
 void ShapeWidgetContent::on_itemClicked()

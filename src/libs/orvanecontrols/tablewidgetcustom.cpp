@@ -81,7 +81,8 @@ void TableWidgetCustom::shareColumnWidths()
 
 void TableWidgetCustom::setRowHeights()
 {
-    for (int row = 0; row < m_rowCount; ++row)
+    const int rows = qMin(m_rowCount, rowCount());
+    for (int row = 0; row < rows; ++row)
         setRowHeight(row, recordRowHeight);
 }
 
@@ -94,7 +95,7 @@ void TableWidgetCustom::updateUi(QList<BackUpParam> records)
 
 void TableWidgetCustom::insertHotBackUpInfo(BackUpParam record)
 {
-    const int row = m_rowCount - 1;
+    const int row = qMax(m_rowCount, 0) - 1;
     insertRow(row);
     record.flag = false;
     setRowTexts(row, record);
@@ -140,8 +141,11 @@ void TableWidgetCustom::setTableColumnCount(int columnCount)
 
 void TableWidgetCustom::setTableContentCenter()
 {
-    for (int row = 0; row < m_rowCount; ++row) {
-        for (int column = 0; column < m_columnCount; ++column) {
+    // The kept counts may be any numbers: only cells that there are cost time.
+    const int rows = qMin(m_rowCount, rowCount());
+    const int columns = qMin(m_columnCount, columnCount());
+    for (int row = 0; row < rows; ++row) {
+        for (int column = 0; column < columns; ++column) {
             if (QTableWidgetItem *cell = item(row, column))
                 cell->setTextAlignment(Qt::AlignCenter);
         }

@@ -1096,6 +1096,9 @@ void ToolButtonEx::mousePressEvent(QMouseEvent *event)
     m_pressPoint = event->localPos().toPoint();
     if (m_isDrawCabinetCount)
         Q_EMIT signal_notifyChangedPortInfo(m_cabinetInfo);
+    // Qt hands an ignored event on to the parent, which it asks the button for.
+    if (!self)
+        event->accept();
 }
 
 void ToolButtonEx::mouseReleaseEvent(QMouseEvent *event)
@@ -1112,6 +1115,9 @@ void ToolButtonEx::mouseReleaseEvent(QMouseEvent *event)
         setRightLabelStyle();
     } else if (isCabinet()) {
         setCabinetToAddModel();
+        // As in the press: an ignored event would go on from a deleted button.
+        if (!self)
+            event->accept();
     }
 }
 

@@ -3,8 +3,22 @@
 #include <QAbstractSlider>
 #include <QWidget>
 
+#include <limits>
+
 namespace orvane
 {
+
+namespace
+{
+
+/// Any step is taken: the record stops at the ends of its type.
+int recordAt(qint64 position)
+{
+    using Limits = std::numeric_limits<int>;
+    return int(qBound<qint64>(Limits::min(), position, Limits::max()));
+}
+
+} // namespace
 
 void fillParent(QWidget *child)
 {
@@ -24,16 +38,16 @@ void setArrowVisible(QWidget *arrow, QWidget *placeholder, bool visible)
 
 bool stepLeft(QAbstractSlider *slider, int &position, int minimum, int step)
 {
-    const int distance = slider->sliderPosition() - minimum;
-    position -= qMin(distance, step);
+    const qint64 distance = qint64(slider->sliderPosition()) - minimum;
+    position = recordAt(position - qMin<qint64>(distance, step));
     slider->setSliderPosition(position);
     return distance <= step;
 }
 
 bool stepRight(QAbstractSlider *slider, int &position, int maximum, int step)
 {
-    const int distance = maximum - slider->sliderPosition();
-    position += qMin(distance, step);
+    const qint64 distance = qint64(maximum) - slider->sliderPosition();
+    position = recordAt(position + qMin<qint64>(distance, step));
     slider->setSliderPosition(position);
     return distance <= step;
 }
