@@ -638,6 +638,19 @@ private Q_SLOTS:
         QCOMPARE(pointer::colorAt(&box, inText), QColor(210, 210, 210));
     }
 
+    void theCurrentTextIsSeen()
+    {
+        ComboBoxEx box;
+        box.resize(120, 40);
+        box.addItem("WWWW");
+        box.addItem(QString());
+        QVERIFY(pointer::showAndWait(&box));
+        box.setCurrentIndex(0);
+        const QImage withText = box.grab().toImage();
+        box.setCurrentIndex(1);
+        QVERIFY(box.grab().toImage() != withText);
+    }
+
     void colorIsSeenWhenSetBeforeAndAfterTheFirstShow()
     {
         ComboBoxEx box;
