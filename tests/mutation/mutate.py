@@ -8,10 +8,13 @@ that are labelled "library".  A change that does not compile is not counted, and
 
 import argparse
 import difflib
+import fcntl
 import json
+import os
 import random
 import re
 import shutil
+import signal
 import subprocess
 import sys
 import time
@@ -38,11 +41,18 @@ class Failure(Exception):
 
 
 def run(command, folder, log=None):
-    result = subprocess.run(command, cwd=folder, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
-                            stderr=subprocess.STDOUT, text=True, errors="replace", check=False)
+    """Runs a command with all that it starts, which ends with this program."""
+    with subprocess.Popen(command, cwd=folder, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
+                          stderr=subprocess.STDOUT, text=True, errors="replace",
+                          start_new_session=True) as process:
+        try:
+            output = process.communicate()[0]
+        except BaseException:
+            os.killpg(process.pid, signal.SIGKILL)
+            raise
     if log:
-        log.write_text(result.stdout, encoding="utf-8")
-    return result
+        log.write_text(output, encoding="utf-8")
+    return subprocess.CompletedProcess(command, process.returncode, output)
 
 
 def library_texts(root):
@@ -59,6 +69,7 @@ class Copy:
         self.build_folder = self.root / "build/mutate"
         self.log = folder / "last.log"
         self.green = folder / "green"
+        self.changed = folder / "changed"
         self.tests = []
 
     def refresh(self):
@@ -66,6 +77,10 @@ class Copy:
         listed = run(["git", "ls-files", "-z", "-co", "--exclude-standard"], ROOT).stdout
         wanted = {name for name in listed.split("\0") if name and (ROOT / name).is_file()}
         changed = False
+        if self.changed.is_file():
+            # A run was cut short: what it had changed is written and built again.
+            (self.root / self.changed.read_text(encoding="utf-8")).unlink(missing_ok=True)
+            self.changed.unlink()
         for path in self.root.rglob("*"):
             name = str(path.relative_to(self.root))
             if path.is_file() and not name.startswith("build/") and name not in wanted:
@@ -98,7 +113,8 @@ class Copy:
             self.green.touch()
 
     def build(self, targets):
-        command = ["cmake", "--build", str(self.build_folder), "--target", *targets]
+        command = ["cmake", "--build", str(self.build_folder), "--parallel", "2", "--target",
+                   *targets]
         return run(command, self.root, self.log).returncode == 0
 
     def failed_test(self, options):
@@ -132,6 +148,7 @@ class Copy:
         path = self.root / mutation.path
         original = path.read_text(encoding="utf-8")
         own = sorted(self.own_tests(mutation.path))
+        self.changed.write_text(mutation.path, encoding="utf-8")
         path.write_text(mutation.apply(original), encoding="utf-8")
         try:
             if not self.build(["orvanecontrols", *own]):
@@ -145,6 +162,7 @@ class Copy:
             return self.failed_test((["-E", names] if own else []) + ["-j2"])
         finally:
             path.write_text(original, encoding="utf-8")
+            self.changed.unlink()
 
 
 def read_accepted(texts):
@@ -204,7 +222,6 @@ def mutate(arguments):
     candidates = [mutation for mutation in drawn(arguments, texts)
                   if mutation.key(texts[mutation.path]) not in accepted]
     count = len(candidates) if arguments.again else min(arguments.count, len(candidates))
-    report_path("").mkdir(parents=True, exist_ok=True)
     copy = Copy(report_path(""))
     print("mutate: building a copy of the tree and running its tests unchanged", flush=True)
     copy.prepare()
@@ -260,8 +277,17 @@ def main():
                         help="change this class alone, or this file of internal/; may be repeated")
     parser.add_argument("--again", action="store_true",
                         help="try what the last run left unnoticed")
+    arguments = parser.parse_args()
+    for number in (signal.SIGINT, signal.SIGTERM):
+        signal.signal(number, lambda *_: sys.exit("mutate: interrupted"))
+    report_path("").mkdir(parents=True, exist_ok=True)
     try:
-        return 0 if mutate(parser.parse_args()) else 1
+        with report_path("lock").open("w", encoding="utf-8") as lock:
+            try:
+                fcntl.flock(lock, fcntl.LOCK_EX | fcntl.LOCK_NB)
+            except BlockingIOError:
+                raise Failure("another run uses build/mutate; wait for it to end") from None
+            return 0 if mutate(arguments) else 1
     except Failure as failure:
         print(f"mutate: {failure}", file=sys.stderr)
         return 1
