@@ -43,8 +43,6 @@ void ScrollBarEx::initParameter()
 
 void ScrollBarEx::setVerticalStyle()
 {
-    if (!m_target)
-        return;
     const QString width = QString::number(m_scrollWidth);
     const QString margin = QString::number(m_scrollBarMargin);
     const QString radius = QString::number(m_borderRadius);
@@ -88,8 +86,6 @@ void ScrollBarEx::setVerticalStyle()
 
 void ScrollBarEx::setHorizontalStyle()
 {
-    if (!m_target)
-        return;
     const QString height = QString::number(m_scrollHeight);
     const QString margin = QString::number(m_scrollBarMargin);
     const QString radius = QString::number(m_borderRadius);
