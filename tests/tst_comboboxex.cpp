@@ -322,6 +322,19 @@ private Q_SLOTS:
         QCOMPARE(box.getText(), QString());
     }
 
+    void withoutTheHostsListTheBoxMakesItsOwn()
+    {
+        ComboBoxEx box;
+        QListWidget given;
+        box.setPListWidget(&given);
+        box.setPListWidget(nullptr);
+        QVERIFY(!box.getPListWidget());
+        box.addImageItem(checkImage, "first");
+        QVERIFY(box.getPListWidget());
+        QVERIFY(box.getPListWidget() != &given);
+        QCOMPARE(given.count(), 0);
+    }
+
     void imageRowsAreComboboxItems()
     {
         ComboBoxEx box;
