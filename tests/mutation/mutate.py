@@ -2,8 +2,9 @@
 """Changes one thing in a source of the library at a time, and looks whether a test notices.
 
 Works on a copy of the tree in build/mutate, never on the files that it was started beside.  A
-change is noticed when a test fails, crashes or hangs: first the tests of the class itself, then all
-that are labelled "library".  A change that does not compile is not counted, and another is drawn.
+change is noticed when a test fails, crashes or hangs, twice in a row: first the tests of the class
+itself, then all that are labelled "library".  A change that does not compile is not counted, and
+another is drawn.
 """
 
 import argparse
@@ -30,6 +31,7 @@ ACCEPTED = "tests/mutation/accepted.txt"
 LEAST_NOTICED = 95
 DEFAULT_SEED = 1
 DEFAULT_COUNT = 100
+CORES = str(os.cpu_count() or 1)
 # A test that runs for so many seconds hangs.
 TEST_TIMEOUT = 60
 # A source with more users than that is left to the whole suite.
@@ -113,7 +115,7 @@ class Copy:
             self.green.touch()
 
     def build(self, targets):
-        command = ["cmake", "--build", str(self.build_folder), "--parallel", "2", "--target",
+        command = ["cmake", "--build", str(self.build_folder), "--parallel", CORES, "--target",
                    *targets]
         return run(command, self.root, self.log).returncode == 0
 
@@ -159,7 +161,7 @@ class Copy:
                 return failed
             if not self.build(["orvane_library_tests"]):
                 return "compiler"
-            return self.failed_test((["-E", names] if own else []) + ["-j2"])
+            return self.failed_test((["-E", names] if own else []) + ["-j", CORES])
         finally:
             path.write_text(original, encoding="utf-8")
             self.changed.unlink()

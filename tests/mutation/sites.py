@@ -55,6 +55,7 @@ NO_STATEMENT = SCOPES | SPARED | {
     "for", "if", "inline", "operator", "private", "protected", "public", "return", "static",
     "switch", "try", "typedef", "typename", "virtual", "while", "Q_OBJECT", "Q_SIGNALS", "Q_SLOTS"}
 AFTER_CALLEE = {"(", ".", "->", "=", "+=", "-=", "*=", "/=", "|=", "&=", "[", "++", "--"}
+BEFORE_CHOICE = {";", ",", "=", "+=", "?", ":", "<<", "return"}
 OPEN = {"(": ")", "[": "]", "{": "}"}
 CLOSE = set(OPEN.values())
 
@@ -301,7 +302,7 @@ class Finder:
                     break
                 index = self.partner.get(index - 1, index - 1)
                 continue
-            if before.text in OPEN or before.text in (";", ",", "=", "+=", "?", ":", "<<", "return"):
+            if before.text in OPEN or before.text in BEFORE_CHOICE:
                 break
             index -= 1
         return index
