@@ -647,8 +647,15 @@ private Q_SLOTS:
         const int baseline = (QFontMetrics(box.font()).height() + 51) / 2 - 4;
         const QPoint inText(30 + 16 + 6, baseline - 4);
         QCOMPARE(pointer::colorAt(&box, inText), QColor(69, 69, 69));
+        QPixmap expected = box.grab();
+        QPainter painter(&expected);
+        painter.setFont(box.font());
+        painter.setPen(QColor(210, 210, 210));
+        painter.drawText(30 + 16, baseline, QString(5, QChar(0x2588)));
+        painter.end();
         box.setIsDrawText(true);
         QCOMPARE(pointer::colorAt(&box, inText), QColor(210, 210, 210));
+        QCOMPARE(box.grab().toImage(), expected.toImage());
     }
 
     void theCurrentTextIsSeen()
