@@ -4,6 +4,8 @@
 #include <buttongroupex.h>
 #include <toolbuttonex.h>
 
+Q_DECLARE_METATYPE(QMargins)
+
 namespace
 {
 
@@ -125,6 +127,49 @@ private Q_SLOTS:
         QVERIFY(!area(strip)->widgetResizable());
         QCOMPARE(area(strip)->horizontalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
         QCOMPARE(area(strip)->verticalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
+    }
+
+    void formSpacesItsParts_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QMargins>("margins");
+        QTest::addColumn<int>("spacing");
+        QTest::newRow("strip") << "gridLayout" << QMargins() << 0;
+        QTest::newRow("arrows") << "mainLayout" << QMargins(4, 0, 4, 0) << 4;
+        QTest::newRow("between the arrows") << "gridLayout_2" << QMargins() << 0;
+        QTest::newRow("buttons") << "middleLayout" << QMargins() << 4;
+        QTest::newRow("area") << "horizontalLayout" << QMargins() << 0;
+        QTest::newRow("title") << "subLayout" << QMargins(4, 0, 4, 3) << 0;
+    }
+
+    void formSpacesItsParts()
+    {
+        QFETCH(QString, name);
+        QFETCH(QMargins, margins);
+        QFETCH(int, spacing);
+        const ButtonGroupEx strip;
+        const auto *layout = strip.findChild<QLayout *>(name);
+        QVERIFY(layout);
+        QCOMPARE(layout->contentsMargins(), margins);
+        QCOMPARE(layout->spacing(), spacing);
+    }
+
+    void formFixesSizes()
+    {
+        const ButtonGroupEx strip;
+        QCOMPARE(strip.size(), QSize(230, 70));
+        const QList<QPair<QString, int>> sides = {{"leftBtnFrame", 16},
+                                                  {"rightBtnFrame", 16},
+                                                  {"addCabniateBtnFrame", 40},
+                                                  {"addRowCabniateBtnFrame", 40}};
+        for (const auto &side : sides) {
+            const auto *frame = strip.findChild<QFrame *>(side.first);
+            QCOMPARE(frame->minimumSize(), QSize(side.second, side.second));
+            QCOMPARE(frame->maximumSize(), QSize(side.second, side.second));
+        }
+        QCOMPARE(title(strip)->minimumSize(), QSize(0, 18));
+        QCOMPARE(title(strip)->maximumSize(), QSize(QWIDGETSIZE_MAX, 18));
+        QCOMPARE(area(strip)->minimumSize(), QSize(0, 0));
     }
 
     void formCarriesItsSheets()

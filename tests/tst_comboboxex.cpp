@@ -323,6 +323,19 @@ private Q_SLOTS:
         QCOMPARE(box.getText(), QString());
     }
 
+    void withoutTheHostsListTheBoxMakesItsOwn()
+    {
+        ComboBoxEx box;
+        QListWidget given;
+        box.setPListWidget(&given);
+        box.setPListWidget(nullptr);
+        QVERIFY(!box.getPListWidget());
+        box.addImageItem(checkImage, "first");
+        QVERIFY(box.getPListWidget());
+        QVERIFY(box.getPListWidget() != &given);
+        QCOMPARE(given.count(), 0);
+    }
+
     void imageRowsAreComboboxItems()
     {
         ComboBoxEx box;
@@ -635,8 +648,28 @@ private Q_SLOTS:
         const int baseline = (QFontMetrics(box.font()).height() + 51) / 2 - 4;
         const QPoint inText(30 + 16 + 6, baseline - 4);
         QCOMPARE(pointer::colorAt(&box, inText), QColor(69, 69, 69));
+        QPixmap expected = box.grab();
+        QPainter painter(&expected);
+        painter.setFont(box.font());
+        painter.setPen(QColor(210, 210, 210));
+        painter.drawText(30 + 16, baseline, QString(5, QChar(0x2588)));
+        painter.end();
         box.setIsDrawText(true);
         QCOMPARE(pointer::colorAt(&box, inText), QColor(210, 210, 210));
+        QCOMPARE(box.grab().toImage(), expected.toImage());
+    }
+
+    void theCurrentTextIsSeen()
+    {
+        ComboBoxEx box;
+        box.resize(120, 40);
+        box.addItem("WWWW");
+        box.addItem(QString());
+        QVERIFY(pointer::showAndWait(&box));
+        box.setCurrentIndex(0);
+        const QImage withText = box.grab().toImage();
+        box.setCurrentIndex(1);
+        QVERIFY(box.grab().toImage() != withText);
     }
 
     void colorIsSeenWhenSetBeforeAndAfterTheFirstShow()

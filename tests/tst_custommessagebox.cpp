@@ -7,6 +7,8 @@
 
 #include <functional>
 
+Q_DECLARE_METATYPE(QMargins)
+
 namespace
 {
 
@@ -191,6 +193,47 @@ private Q_SLOTS:
             QVERIFY(column > columnBefore);
             columnBefore = column;
         }
+    }
+
+    void formSpacesItsParts_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QMargins>("margins");
+        QTest::addColumn<int>("spacing");
+        QTest::newRow("box") << "verticalLayout" << QMargins(11, 11, 11, 11) << 0;
+        QTest::newRow("rows") << "gridLayout" << QMargins() << 0;
+        QTest::newRow("title bar") << "gridLayout_7" << QMargins(5, 5, 5, 5) << 0;
+        QTest::newRow("title") << "horizontalLayout_2" << QMargins() << 8;
+        QTest::newRow("middle") << "gridLayout_3" << QMargins() << 0;
+        QTest::newRow("in the middle") << "gridLayout_8" << QMargins(13, 8, 13, 8) << 0;
+        QTest::newRow("icon") << "verticalLayout_3" << QMargins() << 0;
+        QTest::newRow("text") << "verticalLayout_2" << QMargins() << 0;
+    }
+
+    void formSpacesItsParts()
+    {
+        QFETCH(QString, name);
+        QFETCH(QMargins, margins);
+        QFETCH(int, spacing);
+        const CustomMessageBox box;
+        const auto *layout = box.findChild<QLayout *>(name);
+        QVERIFY(layout);
+        QCOMPARE(layout->contentsMargins(), margins);
+        QCOMPARE(layout->spacing(), spacing);
+    }
+
+    void formFixesSizes()
+    {
+        const CustomMessageBox box;
+        const auto *form = box.findChild<QFormLayout *>("formLayout");
+        QCOMPARE(form->horizontalSpacing(), 12);
+        QCOMPARE(form->verticalSpacing(), 0);
+        QCOMPARE(box.findChild<QGridLayout *>("gridLayout_4")->contentsMargins(),
+                 QMargins(13, 9, 13, 9));
+        QCOMPARE(child<QLabel>(&box, "labelIcon")->minimumSize(), QSize(40, 40));
+        QCOMPARE(child<QLabel>(&box, "labelIcon")->maximumSize(), QSize(40, 40));
+        QCOMPARE(child<QLabel>(&box, "labelTitle")->minimumSize(), QSize(0, 20));
+        QCOMPARE(tips(&box)->minimumSize(), QSize(300, 0));
     }
 
     void buttonsAreOfTheirKind_data()

@@ -209,10 +209,13 @@ private Q_SLOTS:
         table.horizontalHeader()->setSectionResizeMode(QHeaderView::Interactive);
         table.resize(400, 300);
         QVERIFY(pointer::showAndWait(&table));
+        table.horizontalHeader()->setStretchLastSection(false);
         table.setColumnWidth(0, 123);
+        table.setColumnWidth(2, 77);
         table.resize(500, 300);
         table.resize(300, 300);
         QCOMPARE(table.columnWidth(0), 123);
+        QCOMPARE(table.columnWidth(2), 77);
     }
 
     void theTableIsReadOnly()

@@ -390,6 +390,18 @@ private Q_SLOTS:
             QCOMPARE(tabs.widget(i)->isVisible(), i == tabs.currentIndex());
     }
 
+    void aMovedTabWithoutAPageLeavesThePages()
+    {
+        NQTabWidget tabs;
+        add(&tabs, "ab");
+        const QList<QWidget *> pages = {tabs.widget(0), tabs.widget(1)};
+        tabs.getTabBar()->addTab("the host's");
+        tabs.getTabBar()->moveTab(2, 0);
+        QCOMPARE(tabs.count(), 3);
+        QCOMPARE(tabs.widget(0), pages[0]);
+        QCOMPARE(tabs.widget(1), pages[1]);
+    }
+
     void pagesAreFound()
     {
         NQTabWidget tabs;
@@ -463,6 +475,9 @@ private Q_SLOTS:
         tabs.setTabMaxWidth(-1);
         QCOMPARE(tabs.getTabMaxWidth(), 90);
         QCOMPARE(tabs.getTabBar()->getTabMaxWidth(), 90);
+        tabs.setTabMaxWidth(0);
+        QCOMPARE(tabs.getTabMaxWidth(), 0);
+        QCOMPARE(tabs.getTabBar()->getTabMaxWidth(), 0);
         tabs.setTabBarType(TabBarRd::TabsOfEqualWidth);
         QCOMPARE(tabs.getTabBarType(), TabBarRd::TabsOfEqualWidth);
         QCOMPARE(tabs.getTabBar()->getTabBarType(), TabBarRd::TabsOfEqualWidth);

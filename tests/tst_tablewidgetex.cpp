@@ -887,6 +887,23 @@ private Q_SLOTS:
         QTRY_VERIFY(qAbs(button->geometry().right() - tabs.rect().right()) <= 1);
     }
 
+    void theMovedAddButtonStaysInItsCornerWithoutRoom()
+    {
+        TableWidgetEx tabs(nullptr, EditableTable, "T");
+        tabs.resize(15, 200);
+        tabs.addTable(true);
+        QVERIFY(pointer::showAndWait(&tabs));
+        const QToolButton *button = addButton(tabs);
+        const int corner = button->x();
+        const int tabsEnd = tabs.tabBar()->geometry().right() + 1;
+        QVERIFY(corner != tabsEnd);
+        // Behind the tabs it would reach beyond the edge.
+        QVERIFY(tabsEnd + button->width() > tabs.width());
+        tabs.setBMovedCornerButton(true);
+        tabs.grab();
+        QCOMPARE(button->x(), corner);
+    }
+
     void movingWithoutAnAddButtonPaintsAsUsual()
     {
         TableWidgetEx tabs(nullptr, PlainTable, "T");

@@ -296,6 +296,51 @@ private Q_SLOTS:
         QCOMPARE(row->checkState(0), after == Qt::Checked ? Qt::Unchecked : Qt::Checked);
     }
 
+    void aToggledRowIsReportedBeforeItsFamily_data()
+    {
+        QTest::addColumn<bool>("isTristate");
+        QTest::newRow("plain family") << false;
+        QTest::newRow("family that follows its rows") << true;
+    }
+
+    void aToggledRowIsReportedBeforeItsFamily()
+    {
+        QFETCH(bool, isTristate);
+        Filled filled(2);
+        if (isTristate)
+            filled.family->setFlags(filled.family->flags() | Qt::ItemIsAutoTristate);
+        QVERIFY(pointer::showAndWait(filled.tree.get()));
+        QCoreApplication::processEvents();
+        QList<QTreeWidgetItem *> reported;
+        connect(filled.tree.get(), &QTreeWidget::itemChanged, this,
+                [&](QTreeWidgetItem *item, int column) {
+                    QCOMPARE(column, 0);
+                    QCOMPARE(filled.family->child(1)->checkState(0), Qt::Checked);
+                    reported.append(item);
+                });
+        filled.click(filled.rowRect(1).center());
+        QList<QTreeWidgetItem *> expected = {filled.family->child(1)};
+        if (isTristate)
+            expected.append(filled.family);
+        QCOMPARE(reported, expected);
+    }
+
+    void aToggledRowTakesItsOwnRowsAlong()
+    {
+        Filled filled(1);
+        QTreeWidgetItem *row = filled.family->child(0);
+        row->setFlags(row->flags() | Qt::ItemIsAutoTristate);
+        auto *below = new QTreeWidgetItem(row);
+        below->setCheckState(0, Qt::Unchecked);
+        QVERIFY(pointer::showAndWait(filled.tree.get()));
+        QCoreApplication::processEvents();
+        QSignalSpy changed(filled.tree.get(), &QTreeWidget::itemChanged);
+        filled.click(filled.rowRect(0).center());
+        QCOMPARE(row->checkState(0), Qt::Checked);
+        QCOMPARE(below->checkState(0), Qt::Checked);
+        QVERIFY(changed.count() >= 2);
+    }
+
     void otherClicksDoNotToggle()
     {
         Filled filled(2);

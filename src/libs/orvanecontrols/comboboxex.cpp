@@ -38,7 +38,6 @@ ComboBoxEx::ComboBoxEx(QWidget *parent, QString normalImg, QString downImg, QStr
           givenOr(disabledImg, ":/Resource/Images/globalResource/combBox/combBox_disabled.png"))
     , m_rowWatcher(std::make_unique<QObject>())
 {
-    setEditable(false);
     setView(new QListView);
     setControlStyleSheet();
     // By signature: the overload is deprecated, and its successor is emitted on other occasions.

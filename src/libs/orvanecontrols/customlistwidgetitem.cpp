@@ -17,8 +17,6 @@ CustomListWidgetItem::CustomListWidgetItem(QWidget *parent)
     , m_iconButton(new QToolButton(this))
     , m_layout(new QHBoxLayout(this))
 {
-    m_textLabel->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-
     m_deleteButton->setMinimumWidth(15);
     m_deleteButton->setMaximumWidth(17);
     orvane::applyStyleSheet(m_deleteButton, orvane::imageButtonSheet("listwidget/trash"));

@@ -159,7 +159,6 @@ void CustomMessageBox::createControls()
     QFont titleFont = m_ui->labelTitle->font();
     titleFont.setWeight(QFont::Bold);
     m_ui->labelTitle->setFont(titleFont);
-    m_ui->labelTips->setWordWrap(false);
     m_ui->labelTips->setAlignment(Qt::AlignTop);
 
     m_applyButton = makeButton(m_ui->frame_apply, ActivatedBtn);

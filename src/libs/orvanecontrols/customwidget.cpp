@@ -9,8 +9,6 @@
 CustomWidget::CustomWidget(QWidget *parent)
     : QWidget(parent)
 {
-    setAutoFillBackground(false);
-
     m_leftLabel = new QLabel(this);
     m_leftLabel->setFixedWidth(36);
     orvane::applyStyleSheet(m_leftLabel, QStringLiteral("background:rgb(69,69,69);"));

@@ -113,7 +113,6 @@ DrawerItem::~DrawerItem()
 
 void DrawerItem::init()
 {
-    m_isInEditMode = false;
     createDrawerItem();
     setWorkSpaceisShow(false);
 }
@@ -148,7 +147,6 @@ void DrawerItem::createDrawerItem()
 
     m_rightFrame = new QFrame(m_headerFrame);
     m_rightFrame->setObjectName(QStringLiteral("FrameRight"));
-    m_rightFrame->setFrameShape(QFrame::NoFrame);
     auto *rightGrid = new QGridLayout(m_rightFrame);
     rightGrid->setSpacing(0);
     rightGrid->setContentsMargins(5, 0, 0, 0);
@@ -185,15 +183,12 @@ void DrawerItem::createDrawerItem()
     headerRow->addWidget(m_headerFrame);
 
     m_scrollArea = new QScrollArea(this);
-    m_scrollArea->setWidgetResizable(false);
     m_scrollArea->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_scrollArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_scrollArea->setFrameStyle(0);
     orvane::applyStyleSheet(m_scrollArea, QStringLiteral("background:rgb(69,69,69);"));
 
     m_mainColumn = new QVBoxLayout;
-    m_mainColumn->setSpacing(0);
-    removeMargins(m_mainColumn);
     m_mainColumn->addLayout(headerRow);
     m_mainColumn->addWidget(m_scrollArea);
     auto *mainGrid = new QGridLayout(this);
@@ -205,21 +200,17 @@ void DrawerItem::createDrawerItem()
 QWidget *DrawerItem::createNames()
 {
     m_nameFrame = new QFrame(m_rightFrame);
-    m_nameFrame->setFrameShape(QFrame::NoFrame);
     auto *grid = new QGridLayout(m_nameFrame);
     grid->setSpacing(0);
     removeMargins(grid);
     auto *column = new QVBoxLayout;
-    column->setSpacing(0);
     grid->addLayout(column, 0, 0);
 
     const QString sheet = "color:rgb(210,210,210);font:" + DefineCommonData::getNormalFont() + ";";
     m_deviceNameLabel = new QLabel(m_nameFrame);
-    m_deviceNameLabel->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     orvane::applyStyleSheet(m_deviceNameLabel, sheet);
     column->addWidget(m_deviceNameLabel);
     m_devicePortNameLabel = new LabelEx(m_nameFrame);
-    m_devicePortNameLabel->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     orvane::applyStyleSheet(m_devicePortNameLabel, sheet);
     m_devicePortNameLabel->setFixedWidth(portNameWidth);
     column->addWidget(m_devicePortNameLabel);

@@ -119,5 +119,4 @@ void ListWidgetTitle::initLayout()
     setMaximumHeight(titleHeight);
     setLayout(layout);
     setWindowFlags(Qt::FramelessWindowHint);
-    setContentsMargins(0, 0, 0, 0);
 }

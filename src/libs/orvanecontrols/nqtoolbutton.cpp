@@ -22,7 +22,6 @@ QHBoxLayout *centredRow(QWidget *label)
 {
     auto *row = new QHBoxLayout;
     row->setSpacing(0);
-    row->setContentsMargins(0, 0, 0, 0);
     row->addStretch();
     row->addWidget(label);
     row->addStretch();
@@ -34,7 +33,6 @@ QHBoxLayout *centredRow(QWidget *label)
 NQToolButton::NQToolButton(QWidget *parent, ToolButtonType type)
     : QToolButton(parent)
 {
-    setAutoFillBackground(false);
     m_type = type;
     createButtonByType(type);
 }

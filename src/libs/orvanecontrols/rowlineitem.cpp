@@ -38,7 +38,6 @@ RowLineItem::RowLineItem(QWidget *parent)
     grid->setContentsMargins(0, 0, 0, 0);
     auto *row = new QHBoxLayout;
     row->setSpacing(6);
-    row->setContentsMargins(0, 0, 0, 0);
 
     m_portLabel = new QLabel(this);
     m_portLabel->setFixedSize(portLabelWidth, portLabelHeight);

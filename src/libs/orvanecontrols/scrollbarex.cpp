@@ -43,8 +43,6 @@ void ScrollBarEx::initParameter()
 
 void ScrollBarEx::setVerticalStyle()
 {
-    if (!m_target)
-        return;
     const QString width = QString::number(m_scrollWidth);
     const QString margin = QString::number(m_scrollBarMargin);
     const QString radius = QString::number(m_borderRadius);
@@ -88,8 +86,7 @@ void ScrollBarEx::setVerticalStyle()
 
 void ScrollBarEx::setHorizontalStyle()
 {
-    if (m_target)
-        orvane::applyStyleSheet(m_target, horizontalSheet());
+    orvane::applyStyleSheet(m_target, horizontalSheet());
 }
 
 QString ScrollBarEx::horizontalSheet()
@@ -136,7 +133,7 @@ QString ScrollBarEx::horizontalSheet()
 void ScrollBarEx::setBothStyles()
 {
     // Of two sheets for one bar the later is in force. Where it is already, nothing has changed.
-    if (m_target && m_target->styleSheet() == horizontalSheet())
+    if (m_target->styleSheet() == horizontalSheet())
         return;
     setVerticalStyle();
     setHorizontalStyle();

@@ -13,7 +13,6 @@ namespace
 constexpr int triggleWidth = 20;
 constexpr int triggleHeight = 8;
 constexpr int horizontalHandle = 8;
-constexpr int verticalHandle = 12;
 
 } // namespace
 
@@ -24,7 +23,6 @@ ShapeWidget::ShapeWidget(QWidget *parent)
     m_ui->setupUi(this);
     createTriggleBtn();
     setScrollBarStyle();
-    setFocusPolicy(Qt::NoFocus);
     initStyle();
     setAttribute(Qt::WA_TranslucentBackground);
 }
@@ -54,11 +52,9 @@ void ShapeWidget::initStyle()
 void ShapeWidget::setScrollBarStyle()
 {
     ScrollBarEx horizontal(m_ui->scrollArea->horizontalScrollBar(), false);
-    horizontal.setScrollBarHeight(horizontalHandle);
-    horizontal.setHorizontalStyle();
+    horizontal.setScrollBarHeight(horizontalHandle); // applies the style, too
 
     ScrollBarEx vertical(m_ui->scrollArea->verticalScrollBar(), false);
-    vertical.setScrollBarHeight(verticalHandle);
     vertical.setVerticalStyle();
 }
 

@@ -20,7 +20,6 @@ ShapeWidgetContent::ShapeWidgetContent(QWidget *parent)
 {
     m_gridLayout->setContentsMargins(gap, gap, 0, gap);
     m_gridLayout->setSpacing(gap);
-    setFocusPolicy(Qt::NoFocus);
 }
 
 void ShapeWidgetContent::setLsWidget(const QList<QWidget *> &list)

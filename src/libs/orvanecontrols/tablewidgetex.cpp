@@ -190,7 +190,7 @@ void TableWidgetEx::setScrollStyle()
 {
     if (!m_scrollArea)
         return;
-    // The setters apply styles of their own, of either direction: that of the bar comes last.
+    // The setters apply styles of their own, of either direction and the horizontal one last.
     ScrollBarEx vertical(m_scrollArea->verticalScrollBar(), true);
     vertical.setScrollWidth(scrollThickness);
     vertical.setScrollBarWidth(scrollHandle);
@@ -203,7 +203,6 @@ void TableWidgetEx::setScrollStyle()
     horizontal.setScrollBarHeight(scrollHandle);
     horizontal.setBorderRadius(scrollRadius);
     horizontal.setScrollColor(QColor(69, 69, 69));
-    horizontal.setHorizontalStyle();
 }
 
 void TableWidgetEx::on_addTable()

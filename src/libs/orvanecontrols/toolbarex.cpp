@@ -12,10 +12,7 @@ namespace
 QFrame *groupFrame(QWidget *bar, const QMargins &margins)
 {
     auto *frame = new QFrame(bar);
-    frame->setFrameShape(QFrame::NoFrame);
-    frame->setFrameShadow(QFrame::Plain);
     frame->setLineWidth(0);
-    frame->setContentsMargins(0, 0, 0, 0);
     auto *layout = new QHBoxLayout(frame);
     layout->setContentsMargins(margins);
     return frame;

@@ -56,7 +56,6 @@ ToolButtonEx::ToolButtonEx(QWidget *parent, ButtonType type, QString upText, QSt
     , m_activatedLook(std::make_unique<orvane::CommandLook>())
     , m_noActivatedLook(std::make_unique<orvane::CommandLook>())
 {
-    setAutoFillBackground(false);
     initTopToBottomParam();
     initLeftToRightParam();
     initActivatedParam();

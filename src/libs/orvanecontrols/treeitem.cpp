@@ -33,7 +33,6 @@ TreeItem::TreeItem(QString name, QSize size, QWidget *parent)
     , m_layout(new QVBoxLayout(this))
     , m_size(size)
 {
-    setAutoFillBackground(false);
     m_layout->addWidget(m_titleLabel);
     m_layout->addWidget(m_sizeLabel);
     m_layout->setSpacing(0);

@@ -6,18 +6,18 @@
 #include <QCursor>
 #include <QDebug>
 #include <QHeaderView>
+#include <QPointer>
 #include <QScrollBar>
+#include <QSignalBlocker>
+#include <QVector>
 
 TreeViewEx::TreeViewEx(QWidget *parent)
     : QTreeWidget(parent)
 {
     setAttribute(Qt::WA_MacShowFocusRect, false);
-    setItemsExpandable(true);
     setHeaderHidden(true);
     setHorizontalScrollMode(ScrollPerPixel);
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     header()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    header()->setStretchLastSection(true);
 
     connect(horizontalScrollBar(), &QScrollBar::rangeChanged, this, &TreeViewEx::on_rangeChanged);
     connect(this, &QTreeWidget::itemClicked, this, &TreeViewEx::on_itemClicked);
@@ -112,8 +112,27 @@ void TreeViewEx::on_itemClicked(QTreeWidgetItem *item, int column)
     const QRect row = visualItemRect(item).translated(viewport()->mapToGlobal(QPoint(0, 0)));
     if (!row.contains(QCursor::pos()))
         return;
-    item->setCheckState(column,
-                        item->checkState(column) == Qt::Checked ? Qt::Unchecked : Qt::Checked);
+    const Qt::CheckState state =
+        item->checkState(column) == Qt::Checked ? Qt::Unchecked : Qt::Checked;
+    if (item->flags() & Qt::ItemIsAutoTristate) {
+        item->setCheckState(column, state); // reports the changes of its children as well
+        return;
+    }
+    // Qt works with the item after it has reported a change, and a host may delete it in that: so
+    // the reports are made here, when Qt is done.
+    QVector<QPersistentModelIndex> changed = {indexFromItem(item, column)};
+    for (QTreeWidgetItem *above = item->parent();
+         above && (above->flags() & Qt::ItemIsAutoTristate); above = above->parent())
+        changed.append(indexFromItem(above, column));
+    {
+        const QSignalBlocker blocker(model());
+        item->setCheckState(column, state);
+    }
+    const QPointer<QAbstractItemModel> reporter(model());
+    for (const QPersistentModelIndex &index : changed) {
+        if (reporter && index.isValid())
+            Q_EMIT reporter->dataChanged(index, index, {Qt::CheckStateRole});
+    }
 }
 
 void TreeViewEx::on_rangeChanged(int, int max)

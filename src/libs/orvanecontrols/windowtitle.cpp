@@ -61,7 +61,6 @@ WindowTitle::WindowTitle(QSize size, QWidget *parent)
     m_mainLayout->addLayout(m_logoLayout); // refused, as the logo's layout has a parent
     m_mainLayout->addLayout(m_buttonLayout);
     orvane::keepFromLeftToRight(m_buttonLayout);
-    setLayout(m_mainLayout);
 }
 
 WindowTitle::~WindowTitle() = default;
@@ -162,8 +161,6 @@ void WindowTitle::buildLogo()
     // leaves it without a parent; as a child of the main layout it is owned, and not laid out.
     m_logoLayout = new QHBoxLayout(this);
     m_logoLayout->setParent(m_mainLayout);
-    m_logoLayout->setContentsMargins(0, 0, 0, 0);
-    m_logoLayout->setSpacing(0);
     m_logoLayout->addSpacing(logoSpacing);
     m_logoLayout->addWidget(m_logoImage);
     m_logoLayout->addSpacing(logoSpacing);
@@ -187,8 +184,6 @@ void WindowTitle::buildButtons()
     connect(m_maximizeButton, &QPushButton::clicked, this, &WindowTitle::signal_maxMainForm);
 
     m_buttonLayout = new QHBoxLayout;
-    m_buttonLayout->setContentsMargins(0, 0, 0, 0);
-    m_buttonLayout->setSpacing(0);
     m_buttonLayout->addStretch();
     m_buttonLayout->addWidget(m_minimizeButton);
     m_buttonLayout->addWidget(m_maximizeButton);

@@ -29,13 +29,11 @@ void initTableBehavior(QTableWidget *table)
 void styleTableScrollBars(QTableWidget *table, int horizontalHeight)
 {
     ScrollBarEx vertical(table->verticalScrollBar(), false);
-    vertical.setScrollBarHeight(handleHeight);
     vertical.setVerticalStyle();
 
     ScrollBarEx horizontal(table->horizontalScrollBar(), false);
     horizontal.setScrollHeight(horizontalHeight);
-    horizontal.setScrollBarHeight(handleHeight);
-    horizontal.setHorizontalStyle();
+    horizontal.setScrollBarHeight(handleHeight); // applies the style, too
 }
 
 QString tableSheet(const QString &border, const QString &font)
