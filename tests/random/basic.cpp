@@ -12,10 +12,14 @@
 #include "sliderex.h"
 #include "sliderexmouse.h"
 #include "spinboxex.h"
+#include "stylesheetbatch.h"
 #include "table.h"
 
 #include <QListWidget>
+#include <QPointer>
 #include <QScrollBar>
+
+#include <deque>
 
 namespace randomuse
 {
@@ -31,6 +35,40 @@ Entry defineCommonData()
         .act("getBigFont", [](Life &, QObject *) { DefineCommonData::getBigFont(); })
         .act("getBiggerFont", [](Life &, QObject *) { DefineCommonData::getBiggerFont(); })
         .share(1);
+}
+
+/// Batches of sheets that begin and end in any order, over a line edit that may die before them.
+struct Batches : QObject {
+    QPointer<LineEditEx> edit;
+    std::deque<StyleSheetBatch> all;
+};
+
+Entry styleSheetBatch()
+{
+    return Table<Batches>("StyleSheetBatch",
+                          [](Life &life) {
+                              auto *batches = new Batches;
+                              batches->edit = life.keep(new LineEditEx(life.parentOrNone()));
+                              return batches;
+                          })
+        .act("begin", [](Life &, Batches *batches) { batches->all.emplace_back(batches->edit); })
+        .act("endFirst",
+             [](Life &, Batches *batches) {
+                 if (!batches->all.empty())
+                     batches->all.pop_front();
+             })
+        .act("endLast",
+             [](Life &, Batches *batches) {
+                 if (!batches->all.empty())
+                     batches->all.pop_back();
+             })
+        .act("setInside",
+             [](Life &life, Batches *batches) {
+                 if (batches->edit)
+                     batches->edit->setBackgroundColor(life.value<QColor>());
+             })
+        .act("deleteInside", [](Life &, Batches *batches) { delete batches->edit; })
+        .share(2);
 }
 
 Entry checkBoxEx()
@@ -341,9 +379,9 @@ Entry comboBoxEx()
 
 QVector<Entry> basicEntries()
 {
-    return {defineCommonData(), checkBoxEx(),   radioButtonEx(),   labelEx(),    scrollBarEx(),
-            pushButtonEx(),     spinBoxEx(),    doubleSpinBoxEx(), lineEditEx(), sliderEx(),
-            sliderExMouse(),    comboboxItem(), comboBoxEx()};
+    return {defineCommonData(), styleSheetBatch(), checkBoxEx(),   radioButtonEx(),   labelEx(),
+            scrollBarEx(),      pushButtonEx(),    spinBoxEx(),    doubleSpinBoxEx(), lineEditEx(),
+            sliderEx(),         sliderExMouse(),   comboboxItem(), comboBoxEx()};
 }
 
 } // namespace randomuse
