@@ -22,9 +22,11 @@ void MutexButtonEx::addButton(ToolButtonEx *button)
         return;
     button->setCheckable(true);
     // Any numbers are taken: places and sizes end at Qt's limit.
-    const qint64 limit = QWIDGETSIZE_MAX;
+    const auto bounded = [](qint64 length) {
+        return int(qBound<qint64>(-QWIDGETSIZE_MAX, length, QWIDGETSIZE_MAX));
+    };
     const qint64 left = (qint64(m_buttonWidth) + m_buttonSpace) * m_buttonGroup->buttons().size();
-    button->setGeometry(int(qBound(-limit, left, limit)), 0, m_buttonWidth, m_buttonHeight);
+    button->setGeometry(bounded(left), 0, bounded(m_buttonWidth), bounded(m_buttonHeight));
     // A checked button unchecks another, and its host may delete the strip on that.
     const QPointer<MutexButtonEx> self(this);
     m_buttonGroup->addButton(button);
@@ -33,7 +35,7 @@ void MutexButtonEx::addButton(ToolButtonEx *button)
     // One pixel a button more than the buttons take, and the gap but once: hosts rely on the width.
     const qint64 count = m_buttonGroup->buttons().size();
     const qint64 width = count * m_buttonWidth + count - m_buttonSpace;
-    const QSize size(int(qBound(-limit, width, limit)), m_buttonHeight);
+    const QSize size(bounded(width), bounded(m_buttonHeight));
     setFixedSize(size.expandedTo(QSize(0, 0)));
 }
 
