@@ -155,7 +155,6 @@ private:
     QLabel *m_upLabel = nullptr;
     QLabel *m_downLabel = nullptr;
     QString m_downText;
-    QString m_spokenCaption; ///< The caption whole, as a screen reader speaks it.
     QVBoxLayout *m_verticalLayout = nullptr;
     QString m_upImage;
     QString m_upDisabledImage;
@@ -176,6 +175,7 @@ private:
     int m_minimumCaptionWidth = 50;
     int m_captionPadding = 5;
     QString m_text;
+    QString m_spokenCaption; ///< The caption whole, as a screen reader speaks it.
 };
 
 #endif // NQTOOLBUTTON_H
