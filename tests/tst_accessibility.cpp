@@ -76,8 +76,9 @@ QStringList shownTexts(QWidget *root)
 /// What stands for \a widget in a list of tab stops.
 QString stopName(QWidget *widget)
 {
-    for (const QString &name :
-         {widget->accessibleName(), widget->objectName(), widget->property("text").toString()}) {
+    const bool isButton = qobject_cast<QAbstractButton *>(widget);
+    for (const QString &name : {isButton ? spokenName(widget) : widget->accessibleName(),
+                                widget->objectName(), widget->property("text").toString()}) {
         if (!name.isEmpty())
             return name;
     }
@@ -273,6 +274,42 @@ private Q_SLOTS:
         QCOMPARE(buttonNames(&frame), QStringList("Port 9"));
     }
 
+    void aCabinetIsAButtonForAScreenReader()
+    {
+        ToolButtonEx cabinet(nullptr, CabinetType, {}, {});
+        QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(&cabinet);
+        QVERIFY(accessible);
+        QCOMPARE(accessible->role(), QAccessible::Button);
+        QVERIFY(!accessible->state().checkable);
+        QVERIFY(!accessible->state().pressed);
+        cabinet.setDown(true);
+        QVERIFY(accessible->state().pressed);
+        cabinet.setDown(false);
+
+        QAccessibleActionInterface *actions = accessible->actionInterface();
+        QVERIFY(actions);
+        QCOMPARE(actions->actionNames().value(0), QAccessibleActionInterface::pressAction());
+        const QSignalSpy clicks(&cabinet, &QAbstractButton::clicked);
+        actions->doAction(QAccessibleActionInterface::pressAction());
+        QCOMPARE(clicks.count(), 1);
+
+        cabinet.setCheckable(true);
+        QCOMPARE(accessible->role(), QAccessible::CheckBox);
+        QVERIFY(accessible->state().checkable);
+        QVERIFY(!accessible->state().checked);
+        QCOMPARE(actions->actionNames().value(0), QAccessibleActionInterface::toggleAction());
+        actions->doAction(QAccessibleActionInterface::pressAction()); // no longer its own
+        QCOMPARE(clicks.count(), 1);
+        actions->doAction(QAccessibleActionInterface::toggleAction());
+        QCOMPARE(clicks.count(), 2);
+        QVERIFY(accessible->state().checked);
+
+        cabinet.setEnabled(false);
+        QVERIFY(!actions->actionNames().contains(QAccessibleActionInterface::toggleAction()));
+        actions->doAction(QAccessibleActionInterface::toggleAction());
+        QCOMPARE(clicks.count(), 2);
+    }
+
     void toolButtonsSpeakWhatTheyShow()
     {
         ToolButtonEx wide(nullptr, LeftToRightType, {}, {});
@@ -287,6 +324,10 @@ private Q_SLOTS:
         QCOMPARE(spokenName(&cabinet), QString("128x64"));
         cabinet.setCabinetSize(320, 160);
         QCOMPARE(spokenName(&cabinet), QString("320x160"));
+        cabinet.setButtonType(ActivatedType);
+        cabinet.resize(200, 30);
+        cabinet.setText("Send");
+        QCOMPARE(spokenName(&cabinet), QString("Send"));
         ToolButtonEx command(nullptr, ActivatedType, {}, {});
         command.resize(200, 30);
         command.setText("Send");

@@ -1,10 +1,10 @@
 #include "toolbuttonex.h"
 
 #include "definecommondata.h"
+#include "internal/accessibletoolbutton.h"
 #include "internal/cabinetdrag.h"
 #include "internal/commandlook.h"
 #include "internal/elidedtext.h"
-#include "internal/spokenname.h"
 #include "internal/stylesheet.h"
 
 #include <QBoxLayout>
@@ -63,7 +63,7 @@ ToolButtonEx::ToolButtonEx(QWidget *parent, ButtonType type, QString upText, QSt
     initCabinetParam();
     m_type = type;
     createButtonByType(type);
-    updateSpokenName(QString());
+    orvane::makeToolButtonsSpeak();
 }
 
 ToolButtonEx::~ToolButtonEx()
@@ -303,9 +303,7 @@ QString ToolButtonEx::fromColorToStr(QColor color)
 
 void ToolButtonEx::setStrUpText(const QString &text)
 {
-    const QString spokenBefore = spokenText();
     m_upText = text;
-    updateSpokenName(spokenBefore);
     if (m_type == TopToBottomType && m_upLabel)
         m_upLabel->setText(text);
 }
@@ -317,9 +315,7 @@ QString ToolButtonEx::strUpText() const
 
 void ToolButtonEx::setStrDownText(const QString &text)
 {
-    const QString spokenBefore = spokenText();
     m_downText = text;
-    updateSpokenName(spokenBefore);
     if (m_type == TopToBottomType && m_downLabel)
         m_downLabel->setText(text);
 }
@@ -391,9 +387,7 @@ int ToolButtonEx::topToBottomBorderRadius() const
 
 void ToolButtonEx::setStrRightText(const QString &text)
 {
-    const QString spokenBefore = spokenText();
     m_rightText = text;
-    updateSpokenName(spokenBefore);
     if (m_type == LeftToRightType && m_rightLabel)
         m_rightLabel->setText(text);
 }
@@ -750,9 +744,7 @@ int ToolButtonEx::getNoActivatedLeftPadding() const
 
 void ToolButtonEx::setCabinetWidth(int width)
 {
-    const QString spokenBefore = spokenText();
     m_cabinetWidth = qBound(leastCabinetSide, width, greatestCabinetSide);
-    updateSpokenName(spokenBefore);
     update();
 }
 
@@ -763,9 +755,7 @@ int ToolButtonEx::cabinetWidth() const
 
 void ToolButtonEx::setCabinetHeight(int height)
 {
-    const QString spokenBefore = spokenText();
     m_cabinetHeight = qBound(leastCabinetSide, height, greatestCabinetSide);
-    updateSpokenName(spokenBefore);
     update();
 }
 
@@ -1162,23 +1152,6 @@ void ToolButtonEx::leaveEvent(QEvent *event)
 bool ToolButtonEx::isCabinet() const
 {
     return m_type == CabinetType || m_type == CabinetModelType;
-}
-
-/// The text that the button shows by labels or by painting, which a screen reader does not find.
-QString ToolButtonEx::spokenText() const
-{
-    if (m_type == LeftToRightType)
-        return m_rightText;
-    if (m_type == TopToBottomType)
-        return QString(m_upText + ' ' + m_downText).trimmed();
-    if (isCabinet() && m_cabinetWidth > 0 && m_cabinetHeight > 0)
-        return sizeText(m_cabinetWidth, m_cabinetHeight);
-    return {};
-}
-
-void ToolButtonEx::updateSpokenName(const QString &previous)
-{
-    orvane::speakAs(this, spokenText(), previous);
 }
 
 QRect ToolButtonEx::cabinetRect(QSize area)

@@ -407,8 +407,6 @@ protected:
 
 private:
     bool isCabinet() const;
-    QString spokenText() const;
-    void updateSpokenName(const QString &previous);
     QRect cabinetRect(QSize area);
     bool isBeyondDragThreshold(const QMouseEvent &event) const;
     void initTopToBottomParam();

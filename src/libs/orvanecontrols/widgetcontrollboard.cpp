@@ -11,6 +11,7 @@
 #include "widgetcontent.h"
 #include "widgetinfo.h"
 
+#include <QAccessible>
 #include <QEvent>
 #include <QGuiApplication>
 #include <QScreen>
@@ -29,15 +30,11 @@ constexpr int popupExtraWidth = 10;
 constexpr int popupExtraHeight = 30;
 
 /// What a screen reader speaks for \a source, which may show a picture alone.
-QString spokenText(const QWidget *source)
+QString spokenText(QWidget *source)
 {
-    const auto *button = qobject_cast<const QAbstractButton *>(source);
-    for (const QString &text :
-         {source->accessibleName(), button ? button->text() : QString(), source->toolTip()}) {
-        if (!text.isEmpty())
-            return text;
-    }
-    return {};
+    const QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(source);
+    const QString text = accessible ? accessible->text(QAccessible::Name) : QString();
+    return text.isEmpty() ? source->toolTip() : text;
 }
 
 } // namespace

@@ -7,7 +7,8 @@ namespace orvane
 
 void speakAs(QWidget *widget, const QString &name, const QString &previous)
 {
-    if (widget->accessibleName() == previous)
+    // Qt makes an interface for the widget to report the change with: none without a change.
+    if (name != previous && widget->accessibleName() == previous)
         widget->setAccessibleName(name);
 }
 
