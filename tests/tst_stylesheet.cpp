@@ -10,6 +10,23 @@
 #include <QStyle>
 #include <QTabBar>
 
+namespace
+{
+
+/// A container in \a storage that was given \a sheets in turn, with a label that has read them.
+QWidget *newContainer(void *storage, const QStringList &sheets)
+{
+    auto *container = new (storage) QWidget;
+    for (const QString &sheet : sheets)
+        orvane::applyStyleSheet(container, sheet);
+    auto *label = new QLabel(container);
+    label->setFixedSize(40, 40);
+    label->style()->styleHint(QStyle::SH_EtchDisabledText, nullptr, label);
+    return container;
+}
+
+} // namespace
+
 class TestStyleSheet : public TestCase
 {
     Q_OBJECT
@@ -121,18 +138,10 @@ private Q_SLOTS:
     void sheetIsForgottenWithItsWidgetAfterTheSecondOneToo()
     {
         alignas(QWidget) unsigned char storage[sizeof(QWidget)];
-        auto build = [&storage](const char *color) {
-            auto *container = new (storage) QWidget;
-            orvane::applyStyleSheet(container, "QLabel{background:#ffffff;}");
-            orvane::applyStyleSheet(container, QStringLiteral("QLabel{background:%1;}").arg(color));
-            auto *label = new QLabel(container);
-            label->setFixedSize(40, 40);
-            label->style()->styleHint(QStyle::SH_EtchDisabledText, nullptr, label);
-            return container;
-        };
         QWidget other; // as long as any sheet is in force, Qt keeps what it has parsed
         orvane::applyStyleSheet(&other, "QWidget{color:#ff0000;}");
-        build("#ff0000")->~QWidget();
+        newContainer(storage, {"QLabel{background:#ffffff;}", "QLabel{background:#ff0000;}"})
+            ->~QWidget();
 
         auto *second = new (storage) QWidget;
         second->setStyleSheet("QLabel{background:#00ff00;}");
@@ -186,18 +195,10 @@ private Q_SLOTS:
     {
         // Qt keeps parsed sheets by address, and the next widget often gets the same one.
         alignas(QWidget) unsigned char storage[sizeof(QWidget)];
-        auto build = [&storage](const char *color) {
-            auto *container = new (storage) QWidget;
-            orvane::applyStyleSheet(container, QStringLiteral("QLabel{background:%1;}").arg(color));
-            auto *label = new QLabel(container);
-            label->setFixedSize(40, 40);
-            label->style()->styleHint(QStyle::SH_EtchDisabledText, nullptr, label);
-            return container;
-        };
         QWidget other; // as long as any sheet is in force, Qt keeps what it has parsed
         orvane::applyStyleSheet(&other, "QWidget{color:#ff0000;}");
-        build("#ff0000")->~QWidget();
-        QWidget *second = build("#00ff00");
+        newContainer(storage, {"QLabel{background:#ff0000;}"})->~QWidget();
+        QWidget *second = newContainer(storage, {"QLabel{background:#00ff00;}"});
         QVERIFY(pointer::showAndWait(second));
         QCOMPARE(pointer::colorAt(second->findChild<QLabel *>(), QPoint(20, 20)),
                  QColor(0, 255, 0));
