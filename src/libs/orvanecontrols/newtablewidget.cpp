@@ -201,8 +201,9 @@ void NewTableWidget::updateEditorGeometries()
 
 bool NewTableWidget::focusNextPrevChild(bool next)
 {
+    if (hasFocus())
+        return QTableWidget::focusNextPrevChild(next);
     // A box that has the focus asks here too, and Qt's table would keep it in its cells for good.
     // NOLINTNEXTLINE(bugprone-parent-virtual-call)
-    return hasFocus() ? QTableWidget::focusNextPrevChild(next)
-                      : QFrame::focusNextPrevChild(next); // clazy:exclude=skipped-base-method
+    return QFrame::focusNextPrevChild(next); // clazy:exclude=skipped-base-method
 }
