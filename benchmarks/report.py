@@ -178,6 +178,18 @@ on all sides but the first, so the tables compare costs, not looks.
 The library is loaded by `dlopen` into a new process that has Qt and an application, until the images
 are registered. The click is a mouse event to the window, until the new state is painted. The
 cabinets lie in rows of eight, and all are in sight.
+
+Where limits are missed, profiles of instructions (`./dev bench --instructions`) say what the time
+goes to:
+
+- *Construct and show*: composing the texts of the sheets, one more reading of the sheet of a widget
+  that has children (it is read when it is set and when it is shown, or a child could keep an earlier
+  one), and in the panels the parts of the forms that are hidden or replaced.
+- *Unchanged setters*: composing the text that is then found equal. It cannot be left out by the value
+  alone, as the setter also has to replace a sheet that the host has put on.
+- *Painting a cabinet*: the size's text takes 33 % of the instructions, the bare button 24 %, the
+  count 14 %, the outline 13 %, measuring 12 %.
+- *4,096 cabinets*: bare Qt's own buttons cost 1.17 to 1.34 times as much each in the same measurement.
 """
 
 
