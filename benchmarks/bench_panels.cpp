@@ -432,6 +432,16 @@ static void addCabinetsAfter(benchmark::State &state)
 }
 BENCHMARK(addCabinetsAfter)->Arg(presentCount)->Iterations(fewPairs)->UseManualTime();
 
+// How much of the growth is Qt's own.
+static void addBareRowsAfter(benchmark::State &state)
+{
+    measureAdding(state, [](QWidget *window) {
+        auto *body = new bareqt::Body(window);
+        return [body] { body->addRow(1, {}); };
+    });
+}
+BENCHMARK(addBareRowsAfter)->Arg(presentCount / 8)->Iterations(fewPairs)->UseManualTime();
+
 static void addRowsAfter(benchmark::State &state)
 {
     measureAdding(state, [](QWidget *window) {
