@@ -50,6 +50,8 @@ WindowFrame::WindowFrame(const QSizeF &curSize, const QSizeF &maxSize, const QSi
 {
     BuildUI();
     ConenctSignal();
+    setCursor(Qt::ArrowCursor);
+    setAttribute(Qt::WA_MouseTracking);
 }
 
 WindowFrame::~WindowFrame() = default;
@@ -228,11 +230,13 @@ void WindowFrame::BuildUI()
     setAttribute(Qt::WA_MouseTracking);
     setCursor(Qt::ArrowCursor);
 
+    setMinimumSize(m_minimumSize.toSize());
+    setMaximumSize(m_currentSize.toSize());
     // Hosts rely on a frame that starts at its maximum size, whatever its current size was.
     m_currentSize = m_maximumSize;
     setFixedSize(m_currentSize.toSize());
-    m_isNormal = false;
-    m_restoreSize = m_minimumSize;
+    m_isNormal = m_currentSize != m_maximumSize;
+    m_restoreSize = m_isNormal ? m_currentSize : m_minimumSize;
 
     updateTitleSize();
     m_title = new WindowTitle(QSize(m_titleWidth, m_titleHeight), this);
