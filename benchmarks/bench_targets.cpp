@@ -89,57 +89,72 @@ void paintCabinet(benchmark::State &state)
 }
 BENCHMARK(paintCabinet)->Iterations(manyPairs)->UseManualTime();
 
-// Rows of eight cabinets, all in sight, built and shown: the time for each cabinet.
+// Rows of eight cabinets, built and shown: the time for each cabinet.
 
 constexpr int cabinetsPerRow = 8;
 
-template <typename Body, typename AddRow> double timePerCabinet(int count, const AddRow &addRow)
+/// In a scroll area as in a drawer's item, or all in one window as high as they are.
+enum Place { Scrolled, InSight };
+
+template <typename Body, typename AddRow>
+double timePerCabinet(int count, Place place, const AddRow &addRow)
 {
+    constexpr QSize screenful(320, 900);
     const QList<StructCabinet> records = cabinetRecords(cabinetsPerRow);
     const Stopwatch stopwatch;
+    QScrollArea area;
     QWidget window;
-    auto *body = new Body(&window);
+    auto *body = new Body(place == InSight ? &window : nullptr);
+    if (place == Scrolled) {
+        area.setWidget(body);
+        area.setWidgetResizable(true);
+    }
     for (int i = 0; i < count / cabinetsPerRow; ++i)
         addRow(body, 1 + i % 16, records);
-    window.setFixedSize(300, body->height());
-    window.show();
+    if (place == InSight)
+        window.setFixedSize(screenful.width(), body->height());
+    else
+        area.resize(screenful);
+    (place == InSight ? &window : &area)->show();
     QCoreApplication::processEvents();
     return stopwatch.seconds() / count;
 }
 
 template <typename Body, typename AddRow>
-void measureGrowth(benchmark::State &state, const AddRow &addRow)
+void measureGrowth(benchmark::State &state, Place place, const AddRow &addRow)
 {
     constexpr int few = 64;
     constexpr int many = 4096;
     // The few are measured as often as it takes to have as many.
     const auto timeOfFew = [&] {
-        constexpr int windows = 16;
+        constexpr int windows = many / few;
         double sum = 0;
         for (int i = 0; i < windows; ++i)
-            sum += timePerCabinet<Body>(few, addRow);
+            sum += timePerCabinet<Body>(few, place, addRow);
         return sum / windows;
     };
-    runSideBySide(state, timeOfFew, [&] { return timePerCabinet<Body>(many, addRow); });
+    runSideBySide(state, timeOfFew, [&] { return timePerCabinet<Body>(many, place, addRow); });
 }
 
-void growth(benchmark::State &state)
+void growth(benchmark::State &state, Place place)
 {
     measureGrowth<DrawerItemContent>(
-        state, [](DrawerItemContent *body, int port, const QList<StructCabinet> &records) {
+        state, place, [](DrawerItemContent *body, int port, const QList<StructCabinet> &records) {
             body->addRowLineItem(port, PortItem, records);
         });
 }
-BENCHMARK(growth)->Iterations(fewPairs)->UseManualTime();
+BENCHMARK_CAPTURE(growth, scrolled, Scrolled)->Iterations(fewPairs)->UseManualTime();
+BENCHMARK_CAPTURE(growth, inSight, InSight)->Iterations(fewPairs)->UseManualTime();
 
-void growthOfBareQt(benchmark::State &state)
+void growthOfBareQt(benchmark::State &state, Place place)
 {
     measureGrowth<bareqt::Body>(
-        state, [](bareqt::Body *body, int port, const QList<StructCabinet> &records) {
+        state, place, [](bareqt::Body *body, int port, const QList<StructCabinet> &records) {
             body->addRow(port, records);
         });
 }
-BENCHMARK(growthOfBareQt)->Iterations(fewPairs)->UseManualTime();
+BENCHMARK_CAPTURE(growthOfBareQt, scrolled, Scrolled)->Iterations(fewPairs)->UseManualTime();
+BENCHMARK_CAPTURE(growthOfBareQt, inSight, InSight)->Iterations(fewPairs)->UseManualTime();
 
 // A click on the header of an item in a large drawer.
 

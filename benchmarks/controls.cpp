@@ -133,9 +133,9 @@ QWidget *newToolBar(QWidget *parent)
 {
     auto *bar = new ToolBarEx(parent);
     for (int i = 0; i < 4; ++i)
-        bar->addButton(new ToolButtonEx(nullptr, DefaultType, QString(), QString()), LeftPos);
+        bar->addButton(new ToolButtonEx(bar, DefaultType, QString(), QString()), LeftPos);
     bar->addSeparator();
-    bar->addButton(new ToolButtonEx(nullptr, DefaultType, QString(), QString()), RightPos);
+    bar->addButton(new ToolButtonEx(bar, DefaultType, QString(), QString()), RightPos);
     bar->setFixedWidth(panelSize.width());
     return bar;
 }
@@ -425,8 +425,8 @@ const std::vector<Control> &allControls()
         {"ComboboxItem",
          manyControls,
          [](QWidget *parent) {
-             return sized(
-                 new ComboboxItem(parent, QPixmap(images + "drawer/netport.png"), "Port", 0));
+             static const QPixmap port(images + "drawer/netport.png"); // the host's own
+             return sized(new ComboboxItem(parent, port, "Port", 0));
          },
          by(&ComboboxItem::setFontColor),
          {}},

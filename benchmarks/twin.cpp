@@ -1,5 +1,6 @@
 #include "twin.h"
 
+#include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialog>
@@ -136,6 +137,7 @@ struct Twin::Part {
     bool isHidden = false;
     bool isPlaced = false;
     QRect place;
+    bool isContent = false; ///< Of a scroll area.
     std::vector<std::pair<QScrollBar *(QAbstractScrollArea::*)() const, QString>> barSheets;
     std::vector<PartPointer> children;
     std::vector<Step> steps; ///< What is left to be done once the children are there.
@@ -165,6 +167,7 @@ public:
             if (child && !isQtsOwn(*child))
                 kid(child);
         }
+        readGroup();
         if (m_model.layout() && !isQtsOwnLayout()) {
             const MakeLayout makeLayout = readLayout(*m_model.layout());
             m_part->steps.push_back([makeLayout](QWidget *widget, const Kids &kids) {
@@ -206,10 +209,11 @@ private:
     {
         if (const auto *area = qobject_cast<const QScrollArea *>(&m_model);
             area && area->widget()) {
-            m_part->steps.push_back(
-                [number = kid(area->widget())](QWidget *widget, const Kids &kids) {
-                    static_cast<QScrollArea *>(widget)->setWidget(kids[number]);
-                });
+            const std::size_t number = kid(area->widget());
+            m_part->children[number]->isContent = true;
+            m_part->steps.push_back([number](QWidget *widget, const Kids &kids) {
+                static_cast<QScrollArea *>(widget)->setWidget(kids[number]);
+            });
         }
         if (const auto *area = qobject_cast<const QAbstractScrollArea *>(&m_model)) {
             readSheet(area->verticalScrollBar()->styleSheet(),
@@ -232,6 +236,24 @@ private:
                     static_cast<QMainWindow *>(widget)->setCentralWidget(kids[number]);
                 });
         }
+    }
+
+    /// The buttons among the children that exclude each other.
+    void readGroup()
+    {
+        std::vector<std::size_t> members;
+        for (auto kid = m_kids.cbegin(); kid != m_kids.cend(); ++kid) {
+            const auto *button = qobject_cast<const QAbstractButton *>(kid.key());
+            if (button && button->group())
+                members.push_back(*kid);
+        }
+        if (members.empty())
+            return;
+        m_part->steps.push_back([members](QWidget *widget, const Kids &kids) {
+            auto *group = new QButtonGroup(widget);
+            for (const std::size_t member : members)
+                group->addButton(static_cast<QAbstractButton *>(kids[member]));
+        });
     }
 
     void readSheet(const QString &sheet, QScrollBar *(QAbstractScrollArea::*bar)() const)
@@ -574,13 +596,26 @@ void setElidedText(QWidget *widget, const QString &text)
     widget->setProperty("text", metrics.elidedText(text, Qt::ElideRight, available));
 }
 
+QWidget *buildPart(const Twin::Part &part, QWidget *parent, Twin::Sheets sheets);
+
+/// The content of \a area as a panel takes it: made by its host, complete, and given its sheet in
+/// the order in which Qt reads it but once.
+QWidget *buildContent(const Twin::Part &part, QScrollArea *area, Twin::Sheets sheets)
+{
+    QWidget *content = buildPart(part, nullptr, sheets);
+    content->setParent(area->viewport());
+    if (sheets == Twin::Sheets::Same && !part.sheet.isEmpty())
+        content->setStyleSheet(part.sheet);
+    return content;
+}
+
 QWidget *buildPart(const Twin::Part &part, QWidget *parent, Twin::Sheets sheets)
 {
     QWidget *widget = part.make(parent);
     if (!part.name.isEmpty())
         widget->setObjectName(part.name);
     if (sheets == Twin::Sheets::Same) {
-        if (!part.sheet.isEmpty())
+        if (!part.sheet.isEmpty() && !part.isContent)
             widget->setStyleSheet(part.sheet);
         for (const auto &[bar, sheet] : part.barSheets)
             (static_cast<QAbstractScrollArea *>(widget)->*bar)()->setStyleSheet(sheet);
@@ -595,8 +630,11 @@ QWidget *buildPart(const Twin::Part &part, QWidget *parent, Twin::Sheets sheets)
         widget->setEnabled(false);
     Kids kids;
     kids.reserve(part.children.size());
-    for (const PartPointer &child : part.children)
-        kids.push_back(buildPart(*child, widget, sheets));
+    for (const PartPointer &child : part.children) {
+        kids.push_back(child->isContent
+                           ? buildContent(*child, static_cast<QScrollArea *>(widget), sheets)
+                           : buildPart(*child, widget, sheets));
+    }
     for (const Step &step : part.steps)
         step(widget, kids);
     if (part.isHidden)

@@ -55,9 +55,9 @@ ButtonGroupEx::ButtonGroupEx(QWidget *parent)
     : QFrame(parent)
     , m_ui(std::make_unique<Ui::ButtonGroupEx>())
 {
+    initStyle(); // before there are children to restyle
     m_ui->setupUi(this);
     orvane::keepFromLeftToRight(m_ui->mainLayout);
-    initStyle(); // before there are more children to restyle
     createScrollBtn();
     createAddCabnicateBtn();
     createAddRowCabnicateBtn();
@@ -116,6 +116,7 @@ void ButtonGroupEx::addWidget(QWidget *w)
     if (!w)
         return;
     m_contentWidget = w;
+    w->setParent(m_ui->scrollArea->viewport()); // first: the content takes over the area's style
     orvane::applyStyleSheet(w,
                             QStringLiteral(".QWidget{background:rgb(62,62,62);}"
                                            ".QWidget:disabled{background:rgb(62,62,62);}"));

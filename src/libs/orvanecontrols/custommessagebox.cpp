@@ -52,7 +52,7 @@ void setButtonSize(QWidget *frame, QWidget *button, int w, int h)
 } // namespace
 
 CustomMessageBox::CustomMessageBox(QWidget *parent)
-    : QDialog(parent)
+    : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint)
     , m_ui(std::make_unique<Ui::CustomMessageBox>())
 {
     m_ui->setupUi(this);
@@ -153,7 +153,6 @@ void CustomMessageBox::moveWindow(QWidget *parent)
 void CustomMessageBox::createControls()
 {
     setAttribute(Qt::WA_DeleteOnClose);
-    setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint);
     setAttribute(Qt::WA_TranslucentBackground);
 
     QFont titleFont = m_ui->labelTitle->font();

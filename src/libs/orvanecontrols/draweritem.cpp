@@ -222,7 +222,6 @@ void DrawerItem::addItem(QWidget *w)
     // A body that is set again has to stay where it is, in the scroll area's viewport.
     if (!m_scrollArea || !w || w == m_scrollArea->widget())
         return;
-    w->setParent(m_scrollArea);
     m_scrollArea->setWidget(w);
     // The body may come when there are further items already.
     orvane::tabInOrder(QList<QWidget *>{m_scrollArea} + orvane::tabStops(w));

@@ -73,7 +73,7 @@ CustomListWidgetMulItem *EquipListWidget::addCustomItem(QStringList texts, bool 
 {
     if (!m_list)
         return nullptr;
-    auto *item = new CustomListWidgetMulItem(texts, nullptr, flag);
+    auto *item = new CustomListWidgetMulItem(texts, m_list->viewport(), flag);
     connect(item, &CustomListWidgetMulItem::signal_itemDoubleClicked, this,
             &EquipListWidget::slot_deviceItemDoubleClicked);
     connect(item, &CustomListWidgetMulItem::signal_enterButtonClick, this,

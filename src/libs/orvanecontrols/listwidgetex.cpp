@@ -27,7 +27,7 @@ void ListWidgetEx::setStyle()
 
 CustomListWidgetItem *ListWidgetEx::addCustomItem(QString text, QString value)
 {
-    auto *item = new CustomListWidgetItem(nullptr);
+    auto *item = new CustomListWidgetItem(viewport()); // where rows are: in its style at once
     connect(item, &CustomListWidgetItem::signal_notifyProjectPath, this,
             &ListWidgetEx::slot_notifyProjectPath);
     connect(item, &CustomListWidgetItem::signal_notifyDeleteItem, this,

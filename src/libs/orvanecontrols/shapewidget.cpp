@@ -22,8 +22,8 @@ ShapeWidget::ShapeWidget(QWidget *parent)
 {
     m_ui->setupUi(this);
     createTriggleBtn();
+    initStyle(); // the area's sheet first: its bars take it over
     setScrollBarStyle();
-    initStyle();
     setAttribute(Qt::WA_TranslucentBackground);
 }
 
@@ -65,17 +65,19 @@ void ShapeWidget::addWidget(QWidget *w)
     // A scroll area remembers the size of its widget, and takes it anew only from another one.
     if (w == m_ui->scrollArea->widget())
         m_ui->scrollArea->takeWidget();
+    // In this order each sheet inside is read once: the content takes over the area's style, gets
+    // its own sheet, and is made ready for showing by the area. Qt does not read the capitals of
+    // that sheet, which hosts rely on; the area's ground, in the same colour, shows through.
+    w->setParent(m_ui->scrollArea->viewport());
+    w->setObjectName(QStringLiteral("shapeWidgetContent"));
+    orvane::applyStyleSheet(w, QStringLiteral("#shapeWidgetContent{background:RGB(69,69,69);}"));
     m_ui->scrollArea->setWidget(w);
     // Hidden layouts do not tell their parents: each is told here that the room needed changed.
     m_ui->scrollArea->updateGeometry();
     m_ui->scrollAreaFrame->updateGeometry();
     updateGeometry();
-    // Qt does not read the capitals of the sheet below, which hosts rely on; the scroll area's
-    // ground, in the same colour, shows through instead.
-    w->setAutoFillBackground(false);
+    w->setAutoFillBackground(false); // the area set it
     m_ui->scrollArea->setFocusPolicy(Qt::NoFocus);
-    w->setObjectName(QStringLiteral("shapeWidgetContent"));
-    orvane::applyStyleSheet(w, QStringLiteral("#shapeWidgetContent{background:RGB(69,69,69);}"));
 }
 
 void ShapeWidget::setTriggleBtnPos(QPoint pos)

@@ -23,6 +23,7 @@ QFrame *groupFrame(QWidget *bar, const QMargins &margins)
 ToolBarEx::ToolBarEx(QWidget *parent)
     : QFrame(parent)
 {
+    orvane::applyStyleSheet(this, QStringLiteral("QFrame{background:rgb(69, 69, 69);}"));
     QFrame *left = groupFrame(this, QMargins(16, 5, 0, 5));
     QFrame *right = groupFrame(this, QMargins(0, 5, 16, 5));
     m_leftLayout = static_cast<QHBoxLayout *>(left->layout());
@@ -37,7 +38,6 @@ ToolBarEx::ToolBarEx(QWidget *parent)
     setFrameShape(QFrame::Box);
     setFrameShadow(QFrame::Raised);
     setFixedHeight(40);
-    orvane::applyStyleSheet(this, QStringLiteral("QFrame{background:rgb(69, 69, 69);}"));
     // Last: a shape adds the width of its frame.
     setContentsMargins(0, 0, 0, 0);
 }
@@ -65,12 +65,11 @@ void ToolBarEx::addSeparator()
 {
     auto *layout = new QHBoxLayout;
     layout->setContentsMargins(6, 0, 6, 0);
-    auto *line = new QFrame(this);
+    auto *line = new QFrame(m_leftLayout->parentWidget());
     line->setFrameShape(QFrame::VLine);
     line->setFixedWidth(1);
     line->setFixedHeight(20);
-    orvane::applyStyleSheet(line,
-                            QStringLiteral("background-color: rgb(112, 112, 112); border:0;"));
+    line->setStyleSheet(QStringLiteral("background-color: rgb(112, 112, 112); border:0;"));
     layout->addWidget(line);
     m_leftLayout->addLayout(layout);
 }

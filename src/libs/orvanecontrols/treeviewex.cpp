@@ -37,7 +37,7 @@ void TreeViewEx::addTreeItem(QTreeWidgetItem *parentItem, QString name, QSize si
     item->setFlags(item->flags() | Qt::ItemIsUserCheckable);
     item->setCheckState(0, state);
 
-    auto *widget = new TreeItem(name, size, nullptr);
+    auto *widget = new TreeItem(name, size, viewport()); // where rows are: in its style at once
     widget->setObject(object);
     widget->resize(width(), widget->height());
     widget->setTilteStyleSheet(m_titleStyle);

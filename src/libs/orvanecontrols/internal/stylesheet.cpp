@@ -6,6 +6,8 @@
 #include <QCoreApplication>
 #include <QEvent>
 #include <QLabel>
+#include <QLineEdit>
+#include <QSlider>
 #include <QStyle>
 #include <QTabBar>
 
@@ -29,8 +31,13 @@ bool isStyledEarly(const QWidget *widget)
 /// show.
 bool isAlone(const QWidget *widget)
 {
-    return widget->children().isEmpty()
-        && (qobject_cast<const QAbstractButton *>(widget) || qobject_cast<const QLabel *>(widget));
+    const bool isLeaf = qobject_cast<const QAbstractButton *>(widget)
+        || qobject_cast<const QLabel *>(widget) || qobject_cast<const QSlider *>(widget)
+        || qobject_cast<const QLineEdit *>(widget);
+    const QObjectList &children = widget->children();
+    return isLeaf
+        && std::none_of(children.begin(), children.end(),
+                        [](const QObject *child) { return child->isWidgetType(); });
 }
 
 /// Eldest first.
