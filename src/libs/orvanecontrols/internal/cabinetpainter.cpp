@@ -48,15 +48,11 @@ void paintFace(QPainter &painter, const CabinetFace &face)
     painter.drawText(textRect, text, QTextOption());
 }
 
-/// The ground that a face is painted on: an even piece of an image.
+/// The ground of a button: an even piece of an image.
 struct Ground {
-    QImage::Format format =
-        QImage::Format_Invalid; ///< Invalid where the ground is of another kind.
-    QRgb color = 0;
+    const QImage *image = nullptr; ///< None where the ground is of another kind.
+    QRect place; ///< In the image's pixels.
     int scale = 0; ///< From the button's pixels to the image's.
-    QMargins around; ///< What there is of the image around the button, in its pixels.
-
-    bool isValid() const { return format != QImage::Format_Invalid; }
 };
 
 /// The whole number by which \a transform enlarges, or 0 if it does more or sets pixels between
@@ -109,17 +105,16 @@ Ground groundUnder(const QPainter &painter, QSize area)
         || !image.rect().contains(place) || !isEven(image, place)) {
         return {};
     }
-    constexpr int room = 32; // more than a letter is wide
-    const QMargins around(place.left() > 0 ? room : 0, place.top() > 0 ? room : 0,
-                          place.right() < image.rect().right() ? room : 0,
-                          place.bottom() < image.rect().bottom() ? room : 0);
-    return {image.format(), image.pixel(place.topLeft()), scale, around};
+    return {&image, place, scale};
 }
 
 /// All that the pixels of a cabinet depend on.
 struct Look {
     CabinetFace face;
-    Ground ground;
+    QImage::Format format;
+    QRgb ground;
+    int scale;
+    bool isInside; ///< Letters cut by the edge of the image are blended in another way.
     QFont font;
     int dpi;
     Qt::LayoutDirection direction;
@@ -131,14 +126,10 @@ bool operator==(const CabinetFace &a, const CabinetFace &b)
         && a.size == b.size && a.count == b.count && a.hasCount == b.hasCount && a.font == b.font;
 }
 
-bool operator==(const Ground &a, const Ground &b)
-{
-    return a.format == b.format && a.color == b.color && a.scale == b.scale && a.around == b.around;
-}
-
 bool operator==(const Look &a, const Look &b)
 {
-    return a.face == b.face && a.ground == b.ground && a.font == b.font && a.dpi == b.dpi
+    return a.face == b.face && a.format == b.format && a.ground == b.ground && a.scale == b.scale
+        && a.isInside == b.isInside && a.font == b.font && a.dpi == b.dpi
         && a.direction == b.direction;
 }
 
@@ -152,29 +143,31 @@ uint qHash(const Look &look, uint seed)
     return combine(seed, look.face.count);
 }
 
-QImage newPictureOf(const Look &look)
+Look lookOf(const CabinetFace &face, const QPainter &painter, const Ground &ground)
 {
-    const Ground &ground = look.ground;
-    const QRect place(QPoint(ground.around.left(), ground.around.top()),
-                      look.face.area * ground.scale);
-    QImage canvas(place.marginsAdded(ground.around).size(), ground.format);
-    canvas.fill(ground.color);
-    canvas.setDevicePixelRatio(ground.scale);
-    constexpr double inchesPerMeter = 1 / 0.0254;
-    canvas.setDotsPerMeterX(qRound(look.dpi * inchesPerMeter));
-    canvas.setDotsPerMeterY(qRound(look.dpi * inchesPerMeter));
-    QFont font = look.font;
-    font.resolve(QFont::AllPropertiesResolved); // what counts as not set would be the application's
-    QPainter painter(&canvas);
-    painter.setLayoutDirection(look.direction);
-    painter.setFont(font);
-    painter.translate(QPointF(place.topLeft()) / ground.scale);
-    // A letter that is cut by the edge of its button is blended otherwise than one that is cut by
-    // the edge of the image.
-    painter.setClipRect(QRect(QPoint(), look.face.area));
-    paintFace(painter, look.face);
-    painter.end();
-    QImage picture = canvas.copy(place);
+    const QImage &image = *ground.image;
+    return {face,
+            image.format(),
+            image.pixel(ground.place.topLeft()),
+            ground.scale,
+            image.rect().contains(ground.place.adjusted(-1, -1, 1, 1)),
+            painter.font(),
+            painter.device()->logicalDpiY(),
+            painter.layoutDirection()};
+}
+
+/// Whether \a painter reaches all of \a place.
+bool isWhole(const QPainter &painter, const QRect &place)
+{
+    return !painter.hasClipping()
+        && (painter.paintEngine()->systemClip() & place) == QRegion(place);
+}
+
+/// What has been painted on \a ground.
+QImage pictureOf(const Ground &ground)
+{
+    QImage picture = ground.image->copy(ground.place);
+    picture.setDevicePixelRatio(ground.scale);
     picture.reinterpretAsFormat(QImage::Format_RGB32); // is copied without looking at the ground
     return picture;
 }
@@ -201,15 +194,6 @@ private:
     QCache<Look, QImage> m_all{greatestCost};
 };
 
-QImage pictureOf(const Look &look)
-{
-    if (const QImage *known = Pictures::all().object(look))
-        return *known;
-    QImage picture = newPictureOf(look);
-    Pictures::all().insert(look, new QImage(picture), int(picture.sizeInBytes()));
-    return picture;
-}
-
 } // namespace
 
 QString cabinetSizeText(QSize size)
@@ -225,13 +209,20 @@ void paintCabinet(QPainter &painter, const CabinetFace &face)
         painter.setFont(small);
     }
     const Ground ground = groundUnder(painter, face.area);
-    if (!ground.isValid()) {
+    if (!ground.image) {
         paintFace(painter, face);
         return;
     }
-    const Look look{face, ground, painter.font(), painter.device()->logicalDpiY(),
-                    painter.layoutDirection()};
-    painter.drawImage(0, 0, pictureOf(look));
+    const Look look = lookOf(face, painter, ground);
+    if (const QImage *picture = Pictures::all().object(look)) {
+        painter.drawImage(0, 0, *picture);
+        return;
+    }
+    paintFace(painter, face);
+    if (isWhole(painter, ground.place)) {
+        auto *picture = new QImage(pictureOf(ground));
+        Pictures::all().insert(look, picture, int(picture->sizeInBytes()));
+    }
 }
 
 } // namespace orvane

@@ -33,9 +33,9 @@ QString cabinetSizeText(QSize size);
 /// Paints \a face, at the same place as the button, whose ground has been painted.
 ///
 /// To lay out and measure the texts costs several times as much as all the rest of a cabinet. So
-/// cabinets that look the same share a picture of themselves, with the ground in it: on an even
-/// ground, as the cabinet's sheet makes it, the picture has the very pixels that painting gives,
-/// whatever the letters' edges are blended with. On any other ground the cabinet is painted.
+/// what has been painted on an even ground, as the cabinet's sheet makes it, is kept as a picture
+/// with the ground in it, and copied to where a cabinet looks the same. On any other ground each
+/// cabinet is painted.
 void paintCabinet(QPainter &painter, const CabinetFace &face);
 
 } // namespace orvane
