@@ -188,8 +188,8 @@ goes to:
 - *Unchanged setters*: composing the text that is then found equal. It cannot be left out by the value
   alone, as the setter also has to replace a sheet that the host has put on.
 - *Painting a cabinet*: what has been painted is copied to cabinets that look the same. The bare
-  button takes 74 % of the instructions of a copied cabinet. The first one of each look costs what
-  painting costs, 3.5 bare buttons.
+  button takes 74 % of the instructions of a copied cabinet. The first one of each look is
+  painted, which costs four bare buttons.
 - *4,096 cabinets*: bare Qt's own buttons cost 1.17 to 1.34 times as much each in the same measurement.
 """
 
