@@ -236,6 +236,41 @@ const QColor fill(183, 187, 194);
 const QColor outline(112, 112, 112);
 const QColor ground(69, 69, 69);
 
+/// What \a button has to look like with its rectangle at \a rectangle on a ground of \a color:
+/// rectangle, count in it, size below.
+QImage paintedByHand(const Button &button, const QRect &rectangle, const QColor &color, int ratio)
+{
+    const bool isModel = button.buttonType() == CabinetModelType;
+    const QString text =
+        QStringLiteral("%1x%2").arg(button.cabinetWidth()).arg(button.cabinetHeight());
+    QImage image(button.size() * ratio, QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(ratio);
+    image.fill(color);
+    QPainter painter(&image);
+    QFont font = button.font();
+    if (isModel) {
+        font = QFont();
+        font.setPixelSize(9);
+    }
+    painter.setFont(font);
+    painter.setBrush(fill);
+    painter.setPen(outline);
+    painter.drawRect(rectangle);
+    if (button.isDrawCabinetCount())
+        painter.drawText(rectangle, Qt::AlignCenter, QString::number(button.cabinetCount()));
+    painter.setPen(Qt::white);
+    if (isModel) {
+        painter.drawText(button.rect(), Qt::AlignHCenter | Qt::AlignBottom, text);
+        return image;
+    }
+    const QFontMetrics metrics(font);
+    const int width = metrics.horizontalAdvance(text);
+    painter.drawText(QRect((button.width() - width) / 2,
+                           button.height() - 20 + (20 - metrics.height()) / 2, width, 20),
+                     text, QTextOption());
+    return image;
+}
+
 } // namespace
 
 Q_DECLARE_METATYPE(ButtonType)
@@ -629,7 +664,6 @@ private Q_SLOTS:
         QFETCH(QSize, size);
         QFETCH(QSize, cabinet);
         QFETCH(QRect, rectangle);
-        const bool isModel = type == CabinetModelType;
         for (int ratio : {1, 2}) {
             for (bool isCountDrawn : {false, true}) {
                 Button button(type);
@@ -640,41 +674,83 @@ private Q_SLOTS:
                 button.ensurePolished();
                 const QImage image = rendered(&button, ratio);
 
-                // The same by hand: ground, rectangle, count in it, size below.
-                QImage expected(size * ratio, image.format());
-                expected.setDevicePixelRatio(ratio);
-                expected.fill(ground);
-                const QString text =
-                    QStringLiteral("%1x%2").arg(cabinet.width()).arg(cabinet.height());
-                QPainter painter(&expected);
-                QFont font = button.font();
-                if (isModel) {
-                    font = QFont();
-                    font.setPixelSize(9);
-                }
-                painter.setFont(font);
-                painter.setBrush(fill);
-                painter.setPen(outline);
-                painter.drawRect(rectangle);
-                if (isCountDrawn)
-                    painter.drawText(rectangle, Qt::AlignCenter, QStringLiteral("37"));
-                painter.setPen(Qt::white);
-                if (isModel) {
-                    painter.drawText(QRect(QPoint(0, 0), size), Qt::AlignHCenter | Qt::AlignBottom,
-                                     text);
-                } else {
-                    const QFontMetrics metrics(font);
-                    const int width = metrics.horizontalAdvance(text);
-                    painter.drawText(QRect((size.width() - width) / 2,
-                                           size.height() - 20 + (20 - metrics.height()) / 2, width,
-                                           20),
-                                     text, QTextOption());
-                }
-                painter.end();
+                const QImage expected = paintedByHand(button, rectangle, ground, ratio);
                 QVERIFY2(
                     image == expected,
                     qPrintable(QStringLiteral("ratio %1, count %2").arg(ratio).arg(isCountDrawn)));
             }
+        }
+    }
+
+    void repaintedCabinetShowsEachChange_data() { kindRows(); }
+
+    // A cabinet is painted once and then copied: both have to show what it is by then.
+    void repaintedCabinetShowsEachChange()
+    {
+        QFETCH(ButtonType, type);
+        // The longer side is 34.3 for a placed cabinet (W 69, H 49) and 39.9 for a model (H 57).
+        const bool isModel = type == CabinetModelType;
+        QRect rectangle = isModel ? QRect(14, 18, 39, 19) : QRect(17, 15, 34, 17);
+        QColor around = ground;
+        const QFont applicationFont = QApplication::font();
+        const std::pair<const char *, std::function<void(Button &)>> changes[] = {
+            {"nothing", [](Button &) {}},
+            {"count", [](Button &button) { button.setCabinetCount(38); }},
+            {"size",
+             [&](Button &button) {
+                 button.setCabinetSize(50, 100);
+                 rectangle = isModel ? QRect(24, 8, 19, 39) : QRect(25, 7, 17, 34);
+             }},
+            {"no count", [](Button &button) { button.setIsDrawCabinetCount(false); }},
+            {"count again", [](Button &button) { button.setIsDrawCabinetCount(true); }},
+            {"ground",
+             [&](Button &button) {
+                 around = QColor(10, 90, 170);
+                 button.setCabinetNormalBgColor(around);
+             }},
+            {"transparent ground",
+             [&](Button &button) {
+                 around = Qt::magenta;
+                 button.setStyleSheet("QToolButton{background:transparent;border:0px;}");
+             }},
+            {"font",
+             [&](Button &button) {
+                 if (!isModel) // a model has a font of its own
+                     button.setStyleSheet("QToolButton{background:transparent;border:0px;"
+                                          "font:bold 7pt \"Inter\";}");
+             }},
+            {"font of the application",
+             [](Button &) { QApplication::setFont(QFont(QStringLiteral("Inter"), 8)); }},
+        };
+        for (bool isPartFirst : {false, true}) {
+            Button button(type);
+            button.setCabinetSize(100, 50);
+            button.setIsDrawCabinetCount(true);
+            button.setCabinetCount(isPartFirst ? 47 : 37);
+            button.ensurePolished();
+            rectangle = isModel ? QRect(14, 18, 39, 19) : QRect(17, 15, 34, 17);
+            around = ground;
+            for (const auto &[name, change] : changes) {
+                change(button);
+                button.ensurePolished();
+                for (int ratio : {1, 2}) {
+                    if (isPartFirst) {
+                        QImage part(button.size() * ratio, QImage::Format_ARGB32_Premultiplied);
+                        part.setDevicePixelRatio(ratio);
+                        part.fill(around); // as if the rest were there already
+                        button.render(&part, QPoint(), QRegion(0, 0, 30, 60));
+                    }
+                    const QImage expected = paintedByHand(button, rectangle, around, ratio);
+                    for (const char *time : {"first", "second"}) {
+                        QVERIFY2(rendered(&button, ratio) == expected,
+                                 qPrintable(QStringLiteral("%1, ratio %2, %3 time")
+                                                .arg(name)
+                                                .arg(ratio)
+                                                .arg(time)));
+                    }
+                }
+            }
+            QApplication::setFont(applicationFont);
         }
     }
 

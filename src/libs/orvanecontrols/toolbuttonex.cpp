@@ -3,18 +3,17 @@
 #include "definecommondata.h"
 #include "internal/accessibletoolbutton.h"
 #include "internal/cabinetdrag.h"
+#include "internal/cabinetpainter.h"
 #include "internal/commandlook.h"
 #include "internal/elidedtext.h"
 #include "internal/stylesheet.h"
 
 #include <QBoxLayout>
 #include <QDrag>
-#include <QFontMetrics>
 #include <QLabel>
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QTextOption>
 
 namespace
 {
@@ -27,11 +26,6 @@ constexpr QRgb addCabinetNormalBg = qRgb(62, 62, 62);
 constexpr QRgb addCabinetHoverBg = qRgb(80, 80, 80);
 constexpr QRgb addCabinetPressedBg = qRgb(56, 56, 56);
 constexpr QRgb addCabinetDisabledBg = qRgb(62, 62, 62);
-
-QString sizeText(int width, int height)
-{
-    return QString::number(width) + "x" + QString::number(height);
-}
 
 QCursor imageCursor(const char *name)
 {
@@ -767,7 +761,7 @@ int ToolButtonEx::cabinetHeight() const
 void ToolButtonEx::setCabinetSize(int width, int height)
 {
     if (m_type == CabinetModelType)
-        setToolTip(m_cabinetName + "_" + sizeText(width, height));
+        setToolTip(m_cabinetName + "_" + orvane::cabinetSizeText(QSize(width, height)));
     setCabinetWidth(width);
     setCabinetHeight(height);
 }
@@ -1033,44 +1027,27 @@ void ToolButtonEx::paintEvent(QPaintEvent *event)
     if (!isCabinet())
         return;
 
-    const bool isModel = m_type == CabinetModelType;
+    orvane::CabinetFace face;
+    face.isModel = m_type == CabinetModelType;
+    m_textBandHeight = face.isModel ? 12 : 20;
+    face.area = size();
+    face.bandHeight = m_textBandHeight;
+    face.size = QSize(m_cabinetWidth, m_cabinetHeight);
+    face.rectangle = QRect(0, 0, width(), height() - m_textBandHeight);
+    if (!face.size.isEmpty())
+        face.rectangle = cabinetRect(face.rectangle.size());
+    face.hasCount = m_isDrawCabinetCount;
+    face.count = m_cabinetCount;
+    face.font = font();
     QPainter painter(this);
-    const QPen outline(QBrush(QColor(112, 112, 112)), 1);
-    painter.setBrush(QColor(183, 187, 194));
-    painter.setPen(outline);
-    m_textBandHeight = isModel ? 12 : 20;
-    if (isModel) {
-        QFont small;
-        small.setPixelSize(9);
-        painter.setFont(small);
-    }
+    orvane::paintCabinet(painter, face);
 
-    const int freeHeight = height() - m_textBandHeight;
-    QRect cabinet(0, 0, width(), freeHeight);
-    if (m_cabinetWidth > 0 && m_cabinetHeight > 0) {
-        cabinet = cabinetRect(cabinet.size());
-        painter.drawRect(cabinet);
-    }
-    if (m_isDrawCabinetCount)
-        painter.drawText(cabinet, Qt::AlignCenter, QString::number(m_cabinetCount));
-
-    const QString text = sizeText(m_cabinetWidth, m_cabinetHeight);
-    painter.setPen(QColor(255, 255, 255));
-    if (isModel) {
-        painter.drawText(rect(), Qt::AlignHCenter | Qt::AlignBottom, text);
+    if (face.isModel || !m_isPressed)
         return;
-    }
-    const QFontMetrics metrics(font());
-    const int textWidth = metrics.horizontalAdvance(text);
-    const QRect textRect((width() - textWidth) / 2,
-                         height() - m_textBandHeight + (m_textBandHeight - metrics.height()) / 2,
-                         textWidth, m_textBandHeight);
-    painter.drawText(textRect, text, QTextOption());
-
+    painter.setBrush(QColor(orvane::cabinetFill));
     painter.setPen(QColor(255, 0, 0));
     // The global position is taken as it is: hosts rely on the mark not showing on the button.
-    if (m_isPressed)
-        painter.drawRect(QRect(QCursor::pos(), QSize(20, 20)));
+    painter.drawRect(QRect(QCursor::pos(), QSize(20, 20)));
 }
 
 void ToolButtonEx::mousePressEvent(QMouseEvent *event)

@@ -1,6 +1,7 @@
 #include "accessibletoolbutton.h"
 
 #include "../toolbuttonex.h"
+#include "cabinetpainter.h"
 
 #include <QAccessibleWidget>
 #include <QCoreApplication>
@@ -21,10 +22,8 @@ QString shownText(const ToolButtonEx &button)
         return QString(button.strUpText() + ' ' + button.strDownText()).trimmed();
     case CabinetType:
     case CabinetModelType:
-        if (button.cabinetWidth() > 0 && button.cabinetHeight() > 0) {
-            return QString::number(button.cabinetWidth()) + "x"
-                + QString::number(button.cabinetHeight());
-        }
+        if (button.cabinetWidth() > 0 && button.cabinetHeight() > 0)
+            return cabinetSizeText(QSize(button.cabinetWidth(), button.cabinetHeight()));
         return {};
     default:
         return button.QToolButton::text(); // as it is seen
