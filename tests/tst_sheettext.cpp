@@ -1,7 +1,6 @@
 #include "support/testcase.h"
 
 #include <sliderex.h>
-#include <stylesheetbatch.h>
 
 #include <orvanecontrols/internal/sheettext.h>
 #include <orvanecontrols/internal/stylesheet.h>
