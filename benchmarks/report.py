@@ -205,8 +205,6 @@ goes to:
 - *Construct and show*: composing the texts of the sheets, one more reading of the sheet of a widget
   that has children (it is read when it is set and when it is shown, or a child could keep an earlier
   one), and in the panels the parts of the forms that are hidden or replaced.
-- *Unchanged setters*: composing the text that is then found equal. It cannot be left out by the value
-  alone, as the setter also has to replace a sheet that the host has put on.
 - *Painting a cabinet*: what has been painted is copied to cabinets that look the same. The bare
   button takes 74 % of the instructions of a copied cabinet. The first one of each look is
   painted, which costs four bare buttons.

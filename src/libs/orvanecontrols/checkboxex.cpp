@@ -26,30 +26,31 @@ void CheckBoxEx::initStyle()
 
 void CheckBoxEx::setCheckBoxStyle()
 {
-    const QString checkedColor = fromColorToStr(m_checkedColor);
-    orvane::applyStyleSheet(
-        this,
-        "QCheckBox{spacing:" + QString::number(m_spacing) + "px;" + m_fontColorFragment
-            + "}QCheckBox::disabled{color:" + fromColorToStr(m_disabledFontColor)
-            + ";font: SimSun Arial;}"
-              "QCheckBox::indicator{width:"
-            + QString::number(m_indicatorWidth) + "px;height:" + QString::number(m_indicatorHeight)
-            + "px;}"
-              "QCheckBox::indicator:unchecked{border-image: "
-              "url(:/Resource/Images/globalResource/checkbox/checkbox_normal.png);color:white;}"
-              "QCheckBox::indicator:unchecked:hover{border-image: "
-              "url(:/Resource/Images/globalResource/checkbox/checkbox_unchecked_hover.png);"
-              "color:white;}"
-              "QCheckBox::indicator:checked{border-image: "
-              "url(:/Resource/Images/globalResource/checkbox/checkbox_pressed.png);color:"
-            + checkedColor
-            + "}"
-              "QCheckBox::indicator:checked:hover{border-image: "
-              "url(:/Resource/Images/globalResource/checkbox/checkbox_checked_hover.png);color:"
-            + checkedColor
-            + "}"
-              "QCheckBox::indicator:checked:disabled{"
-              "image:url(:/Resource/Images/globalResource/checkbox/checked_disabled.png);}");
+    orvane::SheetText sheet;
+    sheet << u"QCheckBox{spacing:" << m_spacing << u"px;" << m_fontColorFragment
+          << u"}"
+             u"QCheckBox::disabled{color:"
+          << m_disabledFontColor
+          << u";font: SimSun Arial;}"
+             u"QCheckBox::indicator{width:"
+          << m_indicatorWidth << u"px;height:" << m_indicatorHeight
+          << u"px;}"
+             u"QCheckBox::indicator:unchecked{border-image: "
+             u"url(:/Resource/Images/globalResource/checkbox/checkbox_normal.png);color:white;}"
+             u"QCheckBox::indicator:unchecked:hover{border-image: "
+             u"url(:/Resource/Images/globalResource/checkbox/checkbox_unchecked_hover.png);"
+             u"color:white;}"
+             u"QCheckBox::indicator:checked{border-image: "
+             u"url(:/Resource/Images/globalResource/checkbox/checkbox_pressed.png);color:"
+          << m_checkedColor
+          << u"}"
+             u"QCheckBox::indicator:checked:hover{border-image: "
+             u"url(:/Resource/Images/globalResource/checkbox/checkbox_checked_hover.png);color:"
+          << m_checkedColor
+          << u"}"
+             u"QCheckBox::indicator:checked:disabled{"
+             u"image:url(:/Resource/Images/globalResource/checkbox/checked_disabled.png);}";
+    orvane::applyStyleSheet(this, sheet);
 }
 
 void CheckBoxEx::setSpacing(int spacing)

@@ -47,37 +47,53 @@ ComboBoxEx::ComboBoxEx(QWidget *parent, QString normalImg, QString downImg, QStr
 
 void ComboBoxEx::setControlStyleSheet()
 {
-    const QString background = fromColorToStr(m_bgCurrentItemColor);
-    const QString fontColor = fromColorToStr(m_fontColor);
-    const QString selectionBackground = fromColorToStr(m_selectionBgColor);
-    const QString disabledColor = fromColorToStr(m_disabledColor);
-    const QString borderWidth = QString::number(m_borderWidth);
-    const QString borderHoverWidth = QString::number(m_borderHoverWidth);
+    orvane::SheetText sheet;
     // The pressed border takes the hover width: hosts rely on the look not depending on
     // setBorderPressedWidth().
-    orvane::applyStyleSheet(
-        this,
-        "QComboBox{border:" + borderWidth + "px solid " + fromColorToStr(m_borderNormalColor)
-            + ";border-radius:" + QString::number(m_borderRadius) + "px;background:" + background
-            + ";color:" + fontColor + ";font: SimSun Arial;}" + "QComboBox:hover{border:"
-            + borderHoverWidth + "px solid " + fromColorToStr(m_borderHoverColor)
-            + ";background:" + fromColorToStr(m_bgHoverItemColor) + ";color:" + fontColor
-            + ";font: SimSun Arial;}" + "QComboBox:checked:pressed{border:" + borderHoverWidth
-            + "px solid " + fromColorToStr(m_borderPressedColor) + ";background:"
-            + fromColorToStr(m_bgPressedItemColor) + ";color:" + fontColor + ";font: SimSun Arial;}"
-            + "QComboBox:disabled{border:" + borderWidth + "px solid " + disabledColor
-            + ";background:" + disabledColor + ";color:" + fromColorToStr(m_disabledFontColor)
-            + ";font: SimSun Arial;}" + "QComboBox QAbstractItemView{background:" + background
-            + ";}" + "QComboBox QAbstractItemView::item{height:" + QString::number(m_itemHeight)
-            + "px;color:" + fontColor + ";font: SimSun Arial;selection-background-color:"
-            + selectionBackground + ";}" + "QComboBox::down-arrow{image:url(" + m_normalArrowImage
-            + ");subcontrol-position:right;subcontrol-origin: padding;}"
-            + "QComboBox::down-arrow:disabled{image:url(" + m_disabledArrowImage + ");}"
-            + "QComboBox::down-arrow:on{image:url(" + m_openArrowImage + ");}"
-            + "QComboBox::drop-down{border:0px;min-width: " + QString::number(m_itemWidth) + "px;}"
-            + "QListView{min-width:" + QString::number(m_listViewWidth) + "px;}"
-            + "QListView::item {background:" + background + ";}"
-            + "QListView::item:hover{background:" + selectionBackground + ";}");
+    sheet << u"QComboBox{border:" << m_borderWidth << u"px solid " << m_borderNormalColor
+          << u";border-radius:" << m_borderRadius << u"px;background:" << m_bgCurrentItemColor
+          << u";color:" << m_fontColor
+          << u";font: SimSun Arial;}"
+             u"QComboBox:hover{border:"
+          << m_borderHoverWidth << u"px solid " << m_borderHoverColor << u";background:"
+          << m_bgHoverItemColor << u";color:" << m_fontColor
+          << u";font: SimSun Arial;}"
+             u"QComboBox:checked:pressed{border:"
+          << m_borderHoverWidth << u"px solid " << m_borderPressedColor << u";background:"
+          << m_bgPressedItemColor << u";color:" << m_fontColor
+          << u";font: SimSun Arial;}"
+             u"QComboBox:disabled{border:"
+          << m_borderWidth << u"px solid " << m_disabledColor << u";background:" << m_disabledColor
+          << u";color:" << m_disabledFontColor
+          << u";font: SimSun Arial;}"
+             u"QComboBox QAbstractItemView{background:"
+          << m_bgCurrentItemColor
+          << u";}"
+             u"QComboBox QAbstractItemView::item{height:"
+          << m_itemHeight << u"px;color:" << m_fontColor
+          << u";font: SimSun Arial;selection-background-color:" << m_selectionBgColor
+          << u";}"
+             u"QComboBox::down-arrow{image:url("
+          << m_normalArrowImage
+          << u");subcontrol-position:right;subcontrol-origin: padding;}"
+             u"QComboBox::down-arrow:disabled{image:url("
+          << m_disabledArrowImage
+          << u");}"
+             u"QComboBox::down-arrow:on{image:url("
+          << m_openArrowImage
+          << u");}"
+             u"QComboBox::drop-down{border:0px;min-width: "
+          << m_itemWidth
+          << u"px;}"
+             u"QListView{min-width:"
+          << m_listViewWidth
+          << u"px;}"
+             u"QListView::item {background:"
+          << m_bgCurrentItemColor
+          << u";}"
+             u"QListView::item:hover{background:"
+          << m_selectionBgColor << u";}";
+    orvane::applyStyleSheet(this, sheet);
 }
 
 void ComboBoxEx::addImageItem(QString imagePath, QString text)
@@ -100,7 +116,7 @@ void ComboBoxEx::addImageItem(QString imagePath, QString text)
     m_listWidget->setItemWidget(item, row);
 
     orvane::applyStyleSheet(m_listWidget,
-                            "background:" + fromColorToStr(m_bgCurrentItemColor) + ";");
+                            orvane::SheetText() << u"background:" << m_bgCurrentItemColor << u";");
     m_hasImageItems = !m_isChangeImg;
     setControlStyleSheet();
 }

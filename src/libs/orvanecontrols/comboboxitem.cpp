@@ -31,7 +31,9 @@ ComboboxItem::ComboboxItem(QWidget *parent, QPixmap pixmap, QString text, int in
 
 void ComboboxItem::setTextStyle()
 {
-    orvane::applyStyleSheet(m_textLabel, orvane::fontColorFragment(m_fontColor));
+    orvane::SheetText sheet;
+    sheet << u"color:" << m_fontColor << u";" << orvane::fontDeclaration;
+    orvane::applyStyleSheet(m_textLabel, sheet);
 }
 
 void ComboboxItem::setFontColor(const QColor &color)

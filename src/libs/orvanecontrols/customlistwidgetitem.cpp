@@ -19,7 +19,7 @@ CustomListWidgetItem::CustomListWidgetItem(QWidget *parent)
 {
     m_deleteButton->setMinimumWidth(15);
     m_deleteButton->setMaximumWidth(17);
-    orvane::applyStyleSheet(m_deleteButton, orvane::imageButtonSheet("listwidget/trash"));
+    orvane::applyStyleSheet(m_deleteButton, orvane::imageButtonSheet(u"listwidget/trash"));
     m_deleteButton->hide();
     orvane::speakAs(m_deleteButton, tr("Delete"));
 

@@ -28,7 +28,7 @@ void DoubleSpinBoxEx::initStyle()
 void DoubleSpinBoxEx::setSpinBoxStyle()
 {
     orvane::applyStyleSheet(this,
-                            orvane::spinBoxSheet("DoubleSpinBoxEx", m_fontColorFragment,
+                            orvane::spinBoxSheet(u"DoubleSpinBoxEx", m_fontColorFragment,
                                                  m_backgroundColor, m_bordColor,
                                                  m_disabledFontColor));
 }

@@ -27,14 +27,20 @@ constexpr int portNameWidth = 160;
 constexpr int portNameWidthAlone = 180;
 
 /// The shrink button's sheet; \a state is "open" or "close".
-QString shrinkSheet(const char *state)
+orvane::SheetText shrinkSheet(QStringView state)
 {
-    const QString image = "{border-image: url(:/Resource/Images/globalResource/drawer/btn_"
-        + QString::fromLatin1(state) + "_%1.png);}";
-    return "QToolButton" + image.arg(QLatin1String("normal")) + "QToolButton:hover"
-        + image.arg(QLatin1String("hover"))
-        // The picture's name has a capital.
-        + "QToolButton:pressed" + image.arg(QLatin1String("Pressed"));
+    orvane::SheetText image;
+    image << u"{border-image: url(:/Resource/Images/globalResource/drawer/btn_" << state << u"_";
+    orvane::SheetText sheet;
+    sheet << u"QToolButton" << image
+          << u"normal.png);}"
+             u"QToolButton:hover"
+          << image
+          << u"hover.png);}"
+             u"QToolButton:pressed"
+          // The picture's name has a capital.
+          << image << u"Pressed.png);}";
+    return sheet;
 }
 
 QString dotSheet(bool isOnline)
@@ -133,7 +139,7 @@ void DrawerItem::createDrawerItem()
     orvane::speakAs(m_shrinkButton, tr("Expand"));
     connect(m_shrinkButton, &QToolButton::clicked, this, &DrawerItem::on_toolButton_shrink_clicked);
     m_shrinkButton->setFixedSize(10, 10);
-    orvane::applyStyleSheet(m_shrinkButton, shrinkSheet("open"));
+    orvane::applyStyleSheet(m_shrinkButton, shrinkSheet(u"open"));
     headerLine->addWidget(m_shrinkButton);
 
     m_checkAllBox = new QCheckBox(m_headerFrame);
@@ -206,7 +212,8 @@ QWidget *DrawerItem::createNames()
     auto *column = new QVBoxLayout;
     grid->addLayout(column, 0, 0);
 
-    const QString sheet = "color:rgb(210,210,210);font:" + DefineCommonData::getNormalFont() + ";";
+    orvane::SheetText sheet;
+    sheet << u"color:rgb(210,210,210);font:" << DefineCommonData::getNormalFont() << u";";
     m_deviceNameLabel = new QLabel(m_nameFrame);
     orvane::applyStyleSheet(m_deviceNameLabel, sheet);
     column->addWidget(m_deviceNameLabel);
@@ -266,7 +273,7 @@ void DrawerItem::setWorkSpaceisShow(bool show)
     } else if (m_contentWidget) {
         m_contentWidget->setVisible(show);
     }
-    orvane::applyStyleSheet(m_shrinkButton, shrinkSheet(show ? "open" : "close"));
+    orvane::applyStyleSheet(m_shrinkButton, shrinkSheet(show ? u"open" : u"close"));
     orvane::speakAs(m_shrinkButton, show ? tr("Collapse") : tr("Expand"),
                     show ? tr("Expand") : tr("Collapse"));
     m_isWorkSpaceShown = show;
@@ -565,15 +572,15 @@ void DrawerItem::notifyHeaderClicked()
 void DrawerItem::setSettingsStyle(bool isSelected)
 {
     orvane::speakAs(m_rightButton, tr("Settings"), tr("Delete"));
-    const QString rest = QStringLiteral(
-        "border-top-right-radius:5px;border-bottom-right-radius:5px;border-image:url("
-        ":/Resource/Images/globalResource/drawer/btn_settings_pressedDouble.png);}");
-    orvane::applyStyleSheet(
-        m_rightButton,
-        "QToolButton{background:"
-            + (isSelected ? QStringLiteral("rgb(82,145,233);") : QStringLiteral("rgb(99,99,99);"))
-            + rest + "QToolButton:hover{background:rgb(115,167,237);" + rest
-            + "QToolButton:pressed{background:rgb(49,87,140);" + rest);
+    constexpr char16_t rest[] =
+        u"border-top-right-radius:5px;border-bottom-right-radius:5px;border-image:url("
+        u":/Resource/Images/globalResource/drawer/btn_settings_pressedDouble.png);}";
+    orvane::SheetText sheet;
+    sheet << u"QToolButton{background:"
+          << QStringView(isSelected ? u"rgb(82,145,233);" : u"rgb(99,99,99);") << rest
+          << u"QToolButton:hover{background:rgb(115,167,237);" << rest
+          << u"QToolButton:pressed{background:rgb(49,87,140);" << rest;
+    orvane::applyStyleSheet(m_rightButton, sheet);
 }
 
 void DrawerItem::setDeleteStyle()

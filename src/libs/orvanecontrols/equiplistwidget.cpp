@@ -165,7 +165,9 @@ void EquipListWidget::initAnimation()
     m_overlay = new QWidget(this);
     m_overlayText = new QLabel(m_overlay);
     m_overlayText->setAlignment(Qt::AlignHCenter | Qt::AlignVCenter | Qt::AlignBottom);
-    orvane::applyStyleSheet(m_overlayText, "font:" + DefineCommonData::getNormalFont() + ";");
+    orvane::applyStyleSheet(m_overlayText,
+                            orvane::SheetText()
+                                << u"font:" << DefineCommonData::getNormalFont() << u";");
     m_overlayImage = new QLabel(m_overlay);
     m_overlayImage->setAlignment(Qt::AlignCenter);
     m_movie =

@@ -14,7 +14,8 @@ LabelEx::LabelEx(QWidget *parent)
 
 void LabelEx::setFontColor(QColor color)
 {
-    orvane::applyStyleSheet(this, "QLabel{color:" + fromColorToStr(color) + ";font:SimSun Arial;}");
+    orvane::applyStyleSheet(
+        this, orvane::SheetText() << u"QLabel{color:" << color << u";font:SimSun Arial;}");
 }
 
 void LabelEx::setText(const QString &text)

@@ -49,19 +49,20 @@ void LineEditEx::initStyle()
     if (m_type == NormalLineEdit) {
         setNormalLineEditStyle();
     } else if (m_type == UnderlineLineEdit) {
-        orvane::applyStyleSheet(this,
-                                "background-color: rgb(69, 69, 69);color:rgb(210,210,210);"
-                                "font: SimSun Arial;border: none;");
+        orvane::applyStyleSheet(
+            this,
+            QStringLiteral("background-color: rgb(69, 69, 69);color:rgb(210,210,210);"
+                           "font: SimSun Arial;border: none;"));
     }
 }
 
 void LineEditEx::setNormalLineEditStyle()
 {
-    orvane::applyStyleSheet(this,
-                            "background-color:" + fromColorToStr(m_backgroundColor)
-                                + ";color:rgb(210,210,210);font: SimSun Arial;border: "
-                                + QString::number(m_borderWidth) + "px solid "
-                                + fromColorToStr(m_borderColor) + ";");
+    orvane::SheetText sheet;
+    sheet << u"background-color:" << m_backgroundColor
+          << u";color:rgb(210,210,210);font: SimSun Arial;border: " << m_borderWidth << u"px solid "
+          << m_borderColor << u";";
+    orvane::applyStyleSheet(this, sheet);
 }
 
 void LineEditEx::setBorderWidth(int width)

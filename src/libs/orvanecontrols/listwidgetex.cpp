@@ -13,16 +13,16 @@ ListWidgetEx::ListWidgetEx(QWidget *parent)
 
 void ListWidgetEx::setStyle()
 {
-    orvane::applyStyleSheet(
-        this,
-        "QListWidget{background:" + fromColorToStr(m_bgNormalColor) + "; " + m_fontColorFragment
-            + "}"
-              "QListWidget:pressed{border:none;}"
-              "QListWidget::item:hover {background:"
-            + fromColorToStr(m_bgHoverColor) + ";" + m_fontColorFragment
-            + "}"
-              "QListWidget::item:selected {background:"
-            + fromColorToStr(m_bgPressedColor) + ";" + m_fontColorFragment + "}");
+    orvane::SheetText sheet;
+    sheet << u"QListWidget{background:" << m_bgNormalColor << u"; " << m_fontColorFragment
+          << u"}"
+             u"QListWidget:pressed{border:none;}"
+             u"QListWidget::item:hover {background:"
+          << m_bgHoverColor << u";" << m_fontColorFragment
+          << u"}"
+             u"QListWidget::item:selected {background:"
+          << m_bgPressedColor << u";" << m_fontColorFragment << u"}";
+    orvane::applyStyleSheet(this, sheet);
 }
 
 CustomListWidgetItem *ListWidgetEx::addCustomItem(QString text, QString value)

@@ -12,10 +12,12 @@
 namespace
 {
 
-QString buttonSheet(const QString &name)
+orvane::SheetText buttonSheet(QStringView stem)
 {
-    return "QToolButton{background-color:rgb(225, 225, 225); border:none;}"
-        + orvane::imageButtonSheet("listwidget/" + name);
+    orvane::SheetText sheet;
+    sheet << u"QToolButton{background-color:rgb(225, 225, 225); border:none;}"
+          << orvane::imageButtonSheet(stem);
+    return sheet;
 }
 
 } // namespace
@@ -41,7 +43,8 @@ void ListWidgetTitle::setTitle(QString title)
 void ListWidgetTitle::changeDropDownBtn(bool isShown)
 {
     m_dropDownButton->setIcon(QIcon());
-    orvane::applyStyleSheet(m_dropDownButton, buttonSheet(isShown ? "btn_unfold" : "btn_fold"));
+    orvane::applyStyleSheet(
+        m_dropDownButton, buttonSheet(isShown ? u"listwidget/btn_unfold" : u"listwidget/btn_fold"));
     orvane::speakAs(m_dropDownButton, isShown ? tr("Fold") : tr("Unfold"),
                     isShown ? tr("Unfold") : tr("Fold"));
 }
@@ -95,8 +98,8 @@ void ListWidgetTitle::initLayout()
 
     for (QToolButton *button : {m_settingsButton, m_refreshButton, m_dropDownButton})
         button->setFixedSize(buttonSide, buttonSide);
-    orvane::applyStyleSheet(m_settingsButton, buttonSheet("btn_settings_guide"));
-    orvane::applyStyleSheet(m_refreshButton, buttonSheet("btn_refresh_guide"));
+    orvane::applyStyleSheet(m_settingsButton, buttonSheet(u"listwidget/btn_settings_guide"));
+    orvane::applyStyleSheet(m_refreshButton, buttonSheet(u"listwidget/btn_refresh_guide"));
     orvane::speakAs(m_settingsButton, tr("Settings"));
     orvane::speakAs(m_refreshButton, tr("Refresh"));
     orvane::speakAs(m_dropDownButton, tr("Fold"));

@@ -64,7 +64,7 @@ void NewTableWidget::initTable()
 
 void NewTableWidget::initTableStyle()
 {
-    orvane::applyStyleSheet(this, orvane::tableSheet(QString(), orvane::fontDeclaration));
+    orvane::applyStyleSheet(this, orvane::tableSheet({}, orvane::fontDeclaration));
 }
 
 void NewTableWidget::setAddCheckBoxVisible(bool isVisible)

@@ -125,7 +125,8 @@ void NQTabWidget::setTabMaxWidth(int width)
 void NQTabWidget::setStackedWidgetColor(QColor color)
 {
     m_stackColor = color;
-    orvane::applyStyleSheet(m_stack, ".QWidget{background-color:" + fromColorToStr(color) + ";}");
+    orvane::applyStyleSheet(m_stack,
+                            orvane::SheetText() << u".QWidget{background-color:" << color << u";}");
 }
 
 void NQTabWidget::setWidgetSize(int width, int height)

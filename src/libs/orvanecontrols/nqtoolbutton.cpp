@@ -14,7 +14,7 @@ namespace
 
 void setImage(QWidget *label, const QString &path)
 {
-    orvane::applyStyleSheet(label, "border-image: url(" + path + ");");
+    orvane::applyStyleSheet(label, orvane::SheetText() << u"border-image: url(" << path << u");");
 }
 
 /// A row of \a label alone, in its middle.
@@ -111,42 +111,40 @@ void NQToolButton::createLeftToRightLabels()
 
 void NQToolButton::setTopToBottomStyle()
 {
-    const QString pressed = "{background:" + fromColorToStr(m_topToBottomPressedColor)
-        + ";border:" + QString::number(m_topToBottomBorderWidth) + "px solid "
-        + fromColorToStr(m_topToBottomPressedBorderColor) + ";}";
+    orvane::SheetText pressed;
+    pressed << u"{background:" << m_topToBottomPressedColor << u";border:"
+            << m_topToBottomBorderWidth << u"px solid " << m_topToBottomPressedBorderColor << u";}";
+    orvane::SheetText sheet;
     // "pt" stands behind a font text that has its unit already; hosts rely on it, as on the capital
     // of "Pressed".
-    orvane::applyStyleSheet(this,
-                            "QToolButton{background:" + fromColorToStr(m_topToBottomNormalColor)
-                                + ";border-radius:" + QString::number(m_topToBottomBorderRadius)
-                                + "px;font:" + DefineCommonData::getNormalFont()
-                                + "pt;}"
-                                  "QToolButton:hover{background:"
-                                + fromColorToStr(m_topToBottomHoverColor)
-                                + ";border:" + QString::number(m_topToBottomBorderWidth)
-                                + "px solid " + fromColorToStr(m_topToBottomHoverBorderColor)
-                                + ";}"
-                                  "QToolButton:checked"
-                                + pressed + "QToolButton:Pressed" + pressed
-                                + "QToolButton:disabled{background:"
-                                + fromColorToStr(m_topToBottomDisabledColor) + ";}");
+    sheet << u"QToolButton{background:" << m_topToBottomNormalColor << u";border-radius:"
+          << m_topToBottomBorderRadius << u"px;font:" << DefineCommonData::getNormalFont()
+          << u"pt;}"
+             u"QToolButton:hover{background:"
+          << m_topToBottomHoverColor << u";border:" << m_topToBottomBorderWidth << u"px solid "
+          << m_topToBottomHoverBorderColor
+          << u";}"
+             u"QToolButton:checked"
+          << pressed << u"QToolButton:Pressed" << pressed << u"QToolButton:disabled{background:"
+          << m_topToBottomDisabledColor << u";}";
+    orvane::applyStyleSheet(this, sheet);
 }
 
 void NQToolButton::setLeftToRightStyle()
 {
-    orvane::applyStyleSheet(this,
-                            "QToolButton{background:" + fromColorToStr(m_leftToRightNormalColor)
-                                + ";border-radius:" + QString::number(m_leftToRightBorderRadius)
-                                + "px;font:" + DefineCommonData::getNormalFont()
-                                + "pt;}"
-                                  "QToolButton:hover{background:"
-                                + fromColorToStr(m_leftToRightHoverColor)
-                                + ";}"
-                                  "QToolButton:Pressed{background:"
-                                + fromColorToStr(m_leftToRightPressedColor)
-                                + ";}"
-                                  "QToolButton:disabled{background:"
-                                + fromColorToStr(m_leftToRightDisabledColor) + ";}");
+    orvane::SheetText sheet;
+    sheet << u"QToolButton{background:" << m_leftToRightNormalColor << u";border-radius:"
+          << m_leftToRightBorderRadius << u"px;font:" << DefineCommonData::getNormalFont()
+          << u"pt;}"
+             u"QToolButton:hover{background:"
+          << m_leftToRightHoverColor
+          << u";}"
+             u"QToolButton:Pressed{background:"
+          << m_leftToRightPressedColor
+          << u";}"
+             u"QToolButton:disabled{background:"
+          << m_leftToRightDisabledColor << u";}";
+    orvane::applyStyleSheet(this, sheet);
 }
 
 void NQToolButton::setDownLabelStyle()
@@ -157,8 +155,8 @@ void NQToolButton::setDownLabelStyle()
 void NQToolButton::setDownLabelColor(const QColor &color)
 {
     if (m_downLabel) {
-        orvane::applyStyleSheet(m_downLabel,
-                                "color:" + fromColorToStr(color) + ";font:SimSun Arial;");
+        orvane::applyStyleSheet(
+            m_downLabel, orvane::SheetText() << u"color:" << color << u";font:SimSun Arial;");
     }
 }
 

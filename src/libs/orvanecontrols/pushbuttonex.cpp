@@ -27,8 +27,9 @@ void PushButtonEx::createButtonByType(BtnType type)
         setNoActivatedStyle();
         break;
     default:
-        orvane::applyStyleSheet(
-            this, "color:rgb(255,255,255);font:" + DefineCommonData::getNormalFont() + ";");
+        orvane::applyStyleSheet(this,
+                                orvane::SheetText() << u"color:rgb(255,255,255);font:"
+                                                    << DefineCommonData::getNormalFont() << u";");
     }
 }
 
@@ -45,8 +46,8 @@ void PushButtonEx::initNoActivatedButtonParam()
 void PushButtonEx::setActivatedStyle()
 {
     orvane::applyStyleSheet(this,
-                            orvane::commandSheet("QPushButton", *m_activatedLook,
-                                                 {"hover", "pressed", "disabled"},
+                            orvane::commandSheet(u"QPushButton", *m_activatedLook,
+                                                 {u"hover", u"pressed", u"disabled"},
                                                  DefineCommonData::getNormalFont()));
 }
 
@@ -54,8 +55,8 @@ void PushButtonEx::setNoActivatedStyle()
 {
     // The capitals are not a slip: hosts rely on the text, and sheets ignore the case of states.
     orvane::applyStyleSheet(this,
-                            orvane::commandSheet("QPushButton", *m_noActivatedLook,
-                                                 {"Hover", "Pressed", "Disabled"},
+                            orvane::commandSheet(u"QPushButton", *m_noActivatedLook,
+                                                 {u"Hover", u"Pressed", u"Disabled"},
                                                  DefineCommonData::getNormalFont()));
 }
 

@@ -22,29 +22,29 @@ void RadioButtonEx::init()
 
 void RadioButtonEx::setStyle()
 {
-    orvane::applyStyleSheet(
-        this,
-        "QRadioButton::indicator {width:" + QString::number(m_indicatorWidth)
-            + "px;height:" + QString::number(m_indicatorHeight)
-            + "px;}"
-              "QRadioButton::disabled{color:"
-            + fromColorToStr(m_disabledFontColor)
-            + ";font: SimSun Arial;}"
-              "QRadioButton::indicator::unchecked{image: "
-              "url(:/Resource/Images/globalResource/radiobutton/radiobutton_uncheck.png);}"
-              "QRadioButton::indicator::checked{image: "
-              "url(:/Resource/Images/globalResource/radiobutton/radiobutton_check.png);}"
-              "QRadioButton::indicator::unchecked:hover{image: "
-              "url(:/Resource/Images/globalResource/radiobutton/radiobutton_uncheck_hover.png);}"
-              "QRadioButton::indicator::checked:hover{image: "
-              "url(:/Resource/Images/globalResource/radiobutton/radiobutton_check_hover.png);}"
-              "QRadioButton::indicator::unchecked:disabled{image: "
-              "url(:/Resource/Images/globalResource/radiobutton/disabled_unchecked.png);}"
-              "QRadioButton::indicator::checked:disabled{image: "
-              "url(:/Resource/Images/globalResource/radiobutton/disabled_checked.png);}"
-              "QRadioButton{spacing: "
-            // The fragment ends in a semicolon of its own; hosts rely on the text as it is.
-            + QString::number(m_space) + "px;" + m_fontColorFragment + ";}");
+    orvane::SheetText sheet;
+    sheet << u"QRadioButton::indicator {width:" << m_indicatorWidth << u"px;height:"
+          << m_indicatorHeight
+          << u"px;}"
+             u"QRadioButton::disabled{color:"
+          << m_disabledFontColor
+          << u";font: SimSun Arial;}"
+             u"QRadioButton::indicator::unchecked{image: "
+             u"url(:/Resource/Images/globalResource/radiobutton/radiobutton_uncheck.png);}"
+             u"QRadioButton::indicator::checked{image: "
+             u"url(:/Resource/Images/globalResource/radiobutton/radiobutton_check.png);}"
+             u"QRadioButton::indicator::unchecked:hover{image: "
+             u"url(:/Resource/Images/globalResource/radiobutton/radiobutton_uncheck_hover.png);}"
+             u"QRadioButton::indicator::checked:hover{image: "
+             u"url(:/Resource/Images/globalResource/radiobutton/radiobutton_check_hover.png);}"
+             u"QRadioButton::indicator::unchecked:disabled{image: "
+             u"url(:/Resource/Images/globalResource/radiobutton/disabled_unchecked.png);}"
+             u"QRadioButton::indicator::checked:disabled{image: "
+             u"url(:/Resource/Images/globalResource/radiobutton/disabled_checked.png);}"
+             u"QRadioButton{spacing: "
+          // The fragment ends in a semicolon of its own; hosts rely on the text as it is.
+          << m_space << u"px;" << m_fontColorFragment << u";}";
+    orvane::applyStyleSheet(this, sheet);
 }
 
 void RadioButtonEx::setSpace(int space)

@@ -6,12 +6,14 @@ namespace
 {
 
 /// The declaration of an end button's arrow, empty when the buttons carry none.
-QString arrowImage(bool isLoadImg, const char *name)
+orvane::SheetText arrowImage(bool isLoadImg, QStringView name)
 {
-    if (!isLoadImg)
-        return QString();
-    return QStringLiteral("border-image:url(:/Resource/Images/globalResource/scrollbar/%1.png);")
-        .arg(QLatin1String(name));
+    orvane::SheetText image;
+    if (isLoadImg) {
+        image << u"border-image:url(:/Resource/Images/globalResource/scrollbar/" << name
+              << u".png);";
+    }
+    return image;
 }
 
 } // namespace
@@ -43,45 +45,41 @@ void ScrollBarEx::initParameter()
 
 void ScrollBarEx::setVerticalStyle()
 {
-    const QString width = QString::number(m_scrollWidth);
-    const QString margin = QString::number(m_scrollBarMargin);
-    const QString radius = QString::number(m_borderRadius);
-    const QString minHeight = QString::number(m_handerMinHeight);
-    const QString color = fromColorToStr(m_scrollColor);
-    const QString iconSize = "height:" + QString::number(m_iconHeight)
-        + "px;width:" + QString::number(m_iconWidth) + "px;";
-    orvane::applyStyleSheet(
-        m_target,
-        "QScrollBar:vertical{width:" + width + "px;background:" + color + ";padding-top:" + width
-            + "px;padding-bottom:" + width
-            + "px;border:none;}"
-              "QScrollBar::handle:vertical{background:"
-            + fromColorToStr(m_scrollHandleColor) + ";border-radius:" + radius + "px;width:"
-            + QString::number(m_scrollBarWidth)
-            // The margins carry no unit; hosts rely on the text.
-            + "px;margin-left:" + margin + ";margin-right:" + margin + ";min-height:" + minHeight
-            + "px;}"
-              "QScrollBar::handle:vertical:hover{background:"
-            + fromColorToStr(m_scrollHandlePressedColor) + ";border-radius:" + radius
-            + "px;min-height:" + minHeight
-            + "px;}"
-              "QScrollBar::add-line:vertical{"
-            + iconSize + arrowImage(m_isLoadImg, "down_normal")
-            + "subcontrol-position:bottom;}"
-              "QScrollBar::add-page:vertical{background:"
-            + color
-            + ";}"
-              "QScrollBar::sub-page:vertical{background:"
-            + color
-            + ";}"
-              "QScrollBar::add-line:vertical:pressed{"
-            + iconSize + arrowImage(m_isLoadImg, "down_pressed")
-            + "subcontrol-position:bottom;}"
-              "QScrollBar::sub-line:vertical{"
-            + iconSize + arrowImage(m_isLoadImg, "up_normal")
-            + "subcontrol-position:top;}"
-              "QScrollBar::sub-line:vertical:pressed{"
-            + iconSize + arrowImage(m_isLoadImg, "up_pressed") + "subcontrol-position:top;}");
+    orvane::SheetText iconSize;
+    iconSize << u"height:" << m_iconHeight << u"px;width:" << m_iconWidth << u"px;";
+    orvane::SheetText sheet;
+    sheet << u"QScrollBar:vertical{width:" << m_scrollWidth << u"px;background:" << m_scrollColor
+          << u";padding-top:" << m_scrollWidth << u"px;padding-bottom:" << m_scrollWidth
+          << u"px;border:none;}"
+             u"QScrollBar::handle:vertical{background:"
+          << m_scrollHandleColor << u";border-radius:" << m_borderRadius << u"px;width:"
+          << m_scrollBarWidth
+          // The margins carry no unit; hosts rely on the text.
+          << u"px;margin-left:" << m_scrollBarMargin << u";margin-right:" << m_scrollBarMargin
+          << u";min-height:" << m_handerMinHeight
+          << u"px;}"
+             u"QScrollBar::handle:vertical:hover{background:"
+          << m_scrollHandlePressedColor << u";border-radius:" << m_borderRadius << u"px;min-height:"
+          << m_handerMinHeight
+          << u"px;}"
+             u"QScrollBar::add-line:vertical{"
+          << iconSize << arrowImage(m_isLoadImg, u"down_normal")
+          << u"subcontrol-position:bottom;}"
+             u"QScrollBar::add-page:vertical{background:"
+          << m_scrollColor
+          << u";}"
+             u"QScrollBar::sub-page:vertical{background:"
+          << m_scrollColor
+          << u";}"
+             u"QScrollBar::add-line:vertical:pressed{"
+          << iconSize << arrowImage(m_isLoadImg, u"down_pressed")
+          << u"subcontrol-position:bottom;}"
+             u"QScrollBar::sub-line:vertical{"
+          << iconSize << arrowImage(m_isLoadImg, u"up_normal")
+          << u"subcontrol-position:top;}"
+             u"QScrollBar::sub-line:vertical:pressed{"
+          << iconSize << arrowImage(m_isLoadImg, u"up_pressed") << u"subcontrol-position:top;}";
+    orvane::applyStyleSheet(m_target, sheet);
 }
 
 void ScrollBarEx::setHorizontalStyle()
@@ -89,51 +87,50 @@ void ScrollBarEx::setHorizontalStyle()
     orvane::applyStyleSheet(m_target, horizontalSheet());
 }
 
-QString ScrollBarEx::horizontalSheet()
+orvane::SheetText ScrollBarEx::horizontalSheet()
 {
-    const QString height = QString::number(m_scrollHeight);
-    const QString margin = QString::number(m_scrollBarMargin);
-    const QString radius = QString::number(m_borderRadius);
-    const QString color = fromColorToStr(m_scrollColor);
-    const QString iconSize = "width:" + QString::number(m_iconWidth)
-        + "px;height:" + QString::number(m_iconHeight) + "px;";
-    return "QScrollBar:horizontal{height:" + height + "px;background:" + color
-        + ";padding-left:" + height + "px;padding-right:" + height
-        + "px;}"
-          "QScrollBar::handle:horizontal{background:"
-        + fromColorToStr(m_scrollHandleColor) + ";border-radius:" + radius
-        + "px; height:" + QString::number(m_scrollBarHeight) + "px;margin-top:" + margin
-        + ";margin-bottom:" + margin + "; min-width:"
-        + QString::number(m_handerMinWidth)
-        // Hosts rely on the hovered handle naming the least height, not the least width.
-        + "px;}"
-          "QScrollBar::handle:horizontal:hover{background:"
-        + fromColorToStr(m_scrollHandlePressedColor) + ";border-radius:" + radius
-        + "px;min-height:" + QString::number(m_handerMinHeight)
-        + "px;}"
-          "QScrollBar::add-line:horizontal{"
-        + iconSize + arrowImage(m_isLoadImg, "right_normal")
-        + "subcontrol-position:right;}"
-          "QScrollBar::add-page:horizontal{background:"
-        + color
-        + ";}"
-          "QScrollBar::sub-page:horizontal{background:"
-        + color
-        + ";}"
-          "QScrollBar::add-line:horizontal:pressed{"
-        + iconSize + arrowImage(m_isLoadImg, "right_pressed")
-        + "subcontrol-position:right;}"
-          "QScrollBar::sub-line:horizontal{"
-        + iconSize + arrowImage(m_isLoadImg, "left_normal")
-        + "subcontrol-position:left;}"
-          "QScrollBar::sub-line:horizontal:pressed{"
-        + iconSize + arrowImage(m_isLoadImg, "left_pressed") + "subcontrol-position:left;}";
+    orvane::SheetText iconSize;
+    iconSize << u"width:" << m_iconWidth << u"px;height:" << m_iconHeight << u"px;";
+    orvane::SheetText sheet;
+    sheet << u"QScrollBar:horizontal{height:" << m_scrollHeight << u"px;background:"
+          << m_scrollColor << u";padding-left:" << m_scrollHeight << u"px;padding-right:"
+          << m_scrollHeight
+          << u"px;}"
+             u"QScrollBar::handle:horizontal{background:"
+          << m_scrollHandleColor << u";border-radius:" << m_borderRadius << u"px; height:"
+          << m_scrollBarHeight << u"px;margin-top:" << m_scrollBarMargin << u";margin-bottom:"
+          << m_scrollBarMargin << u"; min-width:"
+          << m_handerMinWidth
+          // Hosts rely on the hovered handle naming the least height, not the least width.
+          << u"px;}"
+             u"QScrollBar::handle:horizontal:hover{background:"
+          << m_scrollHandlePressedColor << u";border-radius:" << m_borderRadius << u"px;min-height:"
+          << m_handerMinHeight
+          << u"px;}"
+             u"QScrollBar::add-line:horizontal{"
+          << iconSize << arrowImage(m_isLoadImg, u"right_normal")
+          << u"subcontrol-position:right;}"
+             u"QScrollBar::add-page:horizontal{background:"
+          << m_scrollColor
+          << u";}"
+             u"QScrollBar::sub-page:horizontal{background:"
+          << m_scrollColor
+          << u";}"
+             u"QScrollBar::add-line:horizontal:pressed{"
+          << iconSize << arrowImage(m_isLoadImg, u"right_pressed")
+          << u"subcontrol-position:right;}"
+             u"QScrollBar::sub-line:horizontal{"
+          << iconSize << arrowImage(m_isLoadImg, u"left_normal")
+          << u"subcontrol-position:left;}"
+             u"QScrollBar::sub-line:horizontal:pressed{"
+          << iconSize << arrowImage(m_isLoadImg, u"left_pressed") << u"subcontrol-position:left;}";
+    return sheet;
 }
 
 void ScrollBarEx::setBothStyles()
 {
     // Of two sheets for one bar the later is in force. Where it is already, nothing has changed.
-    if (m_target->styleSheet() == horizontalSheet())
+    if (horizontalSheet().equals(m_target->styleSheet()))
         return;
     setVerticalStyle();
     setHorizontalStyle();

@@ -6,6 +6,11 @@
 #include <QColor>
 #include <QScrollBar>
 
+namespace orvane
+{
+class SheetText;
+} // namespace orvane
+
 /**
  * A controller that gives an existing scroll bar the library's look.
  *
@@ -128,7 +133,7 @@ public:
 
 private:
     void setBothStyles();
-    QString horizontalSheet();
+    orvane::SheetText horizontalSheet();
 
     QScrollBar *m_target = nullptr;
     int m_scrollWidth = 0;

@@ -34,29 +34,27 @@ void SliderEx::setSliderStyle()
 {
     // Hosts rely on these texts: "Horizontal" is capitalised and "-5" has no unit.
     const bool horizontal = m_orientation == Qt::Horizontal;
-    const QString state = horizontal ? "Horizontal" : "vertical";
-    const QString grooveSize = horizontal ? QString("height:" + QString::number(m_grooveHeight))
-                                          : QString("width:" + QString::number(m_grooveWidth));
-    const QString handleSize = "width:" + QString::number(m_handleWidth)
-        + "px;height:" + QString::number(m_handleHeight) + "px";
-    const QString handleMargin = horizontal ? "-5 -1px" : "0 -1px";
-    orvane::applyStyleSheet(
-        this,
-        "QSlider::add-page:" + state + "{background-color:" + fromColorToStr(m_addPageColor)
-            + ";}"
-              "QSlider::sub-page:"
-            + state + "{background-color:" + fromColorToStr(m_subPageColor)
-            + ";}"
-              "QSlider::groove:"
-            + state + "{border:1px ;" + grooveSize
-            + "px;}"
-              "QSlider::handle:"
-            + state + "{border:1px;background:" + fromColorToStr(m_handleColor) + ";" + handleSize
-            + ";margin:" + handleMargin
-            + ";}"
-              "QSlider::handle:"
-            + state + ":hover{border:1px;background:" + fromColorToStr(m_handleHoverColor) + ";"
-            + handleSize + ";margin:" + handleMargin + ";}");
+    const QStringView state = horizontal ? QStringView(u"Horizontal") : u"vertical";
+    const QStringView grooveSide = horizontal ? QStringView(u"height:") : u"width:";
+    const QStringView handleMargin = horizontal ? QStringView(u"-5 -1px") : u"0 -1px";
+    orvane::SheetText handleLayout;
+    handleLayout << u";width:" << m_handleWidth << u"px;height:" << m_handleHeight << u"px;margin:"
+                 << handleMargin << u";}";
+    orvane::SheetText sheet;
+    sheet << u"QSlider::add-page:" << state << u"{background-color:" << m_addPageColor
+          << u";}"
+             u"QSlider::sub-page:"
+          << state << u"{background-color:" << m_subPageColor
+          << u";}"
+             u"QSlider::groove:"
+          << state << u"{border:1px ;" << grooveSide
+          << (horizontal ? m_grooveHeight : m_grooveWidth)
+          << u"px;}"
+             u"QSlider::handle:"
+          << state << u"{border:1px;background:" << m_handleColor << handleLayout
+          << u"QSlider::handle:" << state << u":hover{border:1px;background:" << m_handleHoverColor
+          << handleLayout;
+    orvane::applyStyleSheet(this, sheet);
 }
 
 void SliderEx::setAddPageColor(const QColor &color)

@@ -33,8 +33,9 @@ void SpinBoxEx::initStyle()
 void SpinBoxEx::setSpinBoxStyle()
 {
     orvane::applyStyleSheet(this,
-                            orvane::spinBoxSheet("QSpinBox", m_fontColorFragment, m_backgroundColor,
-                                                 m_bordColor, m_disabledFontColor));
+                            orvane::spinBoxSheet(u"QSpinBox", m_fontColorFragment,
+                                                 m_backgroundColor, m_bordColor,
+                                                 m_disabledFontColor));
 }
 
 void SpinBoxEx::setBackgroundColor(const QColor &color)

@@ -26,9 +26,10 @@ TableWidgetCustom::TableWidgetCustom(QList<BackUpParam> records, QStringList hea
     , m_columnCount(columnCount)
 {
     initTable();
+    orvane::SheetText font;
+    font << u"font:" << DefineCommonData::getNormalFont() << u";";
     orvane::applyStyleSheet(this,
-                            orvane::tableSheet(QStringLiteral("border:1px solid rgb(56,56,56);"),
-                                               "font:" + DefineCommonData::getNormalFont() + ";"));
+                            orvane::tableSheet(u"border:1px solid rgb(56,56,56);", font.view()));
     setMouseTracking(true);
     connect(this, &QTableWidget::itemEntered, this, &TableWidgetCustom::on_itemEntered);
 }

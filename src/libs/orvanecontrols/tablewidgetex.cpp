@@ -57,40 +57,38 @@ void TableWidgetEx::initStyle()
 
 void TableWidgetEx::setTableWidgetStyle()
 {
-    const QString fontColor = fromColorToStr(m_fontColor);
-    orvane::applyStyleSheet(
-        this,
-        "QTabWidget::pane{border:none;background-color:" + fromColorToStr(m_tabWorkSpaceColor)
-            + ";}"
-              "QTabWidget::tab-bar{left:0px;}"
-              "QTabBar::tab{background-color:"
-            + fromColorToStr(m_tabNomalColor) + ";color:" + fontColor
-            + ";font: SimSun Arial;width:" + QString::number(m_tabPanelWidth) + "px;height:"
-            + QString::number(m_tabPanelHeight)
-            // The margins carry no unit and two semicolons follow; hosts rely on the text.
-            + "px;margin-left: " + QString::number(m_leftMargin)
-            + ";margin-top: " + QString::number(m_topMargin)
-            + ";;border-right:1px solid rgb(69,69,69);}"
-              "QTabBar::tab:hover{background-color:"
-            // Hosts rely on a hovered tab keeping the font colour of the others.
-            + fromColorToStr(m_tabHoverColor) + ";color:" + fontColor
-            + ";}"
-              "QTabBar::tab:selected{background-color:"
-            + fromColorToStr(m_tabSelectedColor) + ";color:" + fromColorToStr(m_fontPressedColor)
-            + ";}"
-              "QTabBar::tab:!enabled{width:0px; height:0px;}"
-              "QTabBar::close-button {image: "
-              "url(:/Resource/Images/globalResource/tabwidget/tab_closed_normal.png);} "
-              "QTabBar::close-button:hover {image: "
-              "url(:/Resource/Images/globalResource/tabwidget/tab_closed_hover.png);}"
-              "QTabBar::close-button:pressed {image: "
-              "url(:/Resource/Images/globalResource/tabwidget/tab_closed_pressed.png);}"
-              "QTabBar QToolButton{border:none;}"
-              "QTabBar QToolButton::right-arrow {background-color: rgba(0,0,0,1);border-image: "
-              "url(:/Resource/Images/globalResource/tabwidget/tab_right_normal.png);}"
-              "QTabBar QToolButton::left-arrow {background-color: rgba(0,0,0,1);border-image: "
-              "url(:/Resource/Images/globalResource/tabwidget/tab_left_normal.png);}"
-              "QTabBar::tear{background:transparent;}");
+    orvane::SheetText sheet;
+    sheet << u"QTabWidget::pane{border:none;background-color:" << m_tabWorkSpaceColor
+          << u";}"
+             u"QTabWidget::tab-bar{left:0px;}"
+             u"QTabBar::tab{background-color:"
+          << m_tabNomalColor << u";color:" << m_fontColor << u";font: SimSun Arial;width:"
+          << m_tabPanelWidth << u"px;height:"
+          << m_tabPanelHeight
+          // The margins carry no unit and two semicolons follow; hosts rely on the text.
+          << u"px;margin-left: " << m_leftMargin << u";margin-top: " << m_topMargin
+          << u";;border-right:1px solid rgb(69,69,69);}"
+             u"QTabBar::tab:hover{background-color:"
+          // Hosts rely on a hovered tab keeping the font colour of the others.
+          << m_tabHoverColor << u";color:" << m_fontColor
+          << u";}"
+             u"QTabBar::tab:selected{background-color:"
+          << m_tabSelectedColor << u";color:" << m_fontPressedColor
+          << u";}"
+             u"QTabBar::tab:!enabled{width:0px; height:0px;}"
+             u"QTabBar::close-button {image: "
+             u"url(:/Resource/Images/globalResource/tabwidget/tab_closed_normal.png);} "
+             u"QTabBar::close-button:hover {image: "
+             u"url(:/Resource/Images/globalResource/tabwidget/tab_closed_hover.png);}"
+             u"QTabBar::close-button:pressed {image: "
+             u"url(:/Resource/Images/globalResource/tabwidget/tab_closed_pressed.png);}"
+             u"QTabBar QToolButton{border:none;}"
+             u"QTabBar QToolButton::right-arrow {background-color: rgba(0,0,0,1);border-image: "
+             u"url(:/Resource/Images/globalResource/tabwidget/tab_right_normal.png);}"
+             u"QTabBar QToolButton::left-arrow {background-color: rgba(0,0,0,1);border-image: "
+             u"url(:/Resource/Images/globalResource/tabwidget/tab_left_normal.png);}"
+             u"QTabBar::tear{background:transparent;}";
+    orvane::applyStyleSheet(this, sheet);
 }
 
 void TableWidgetEx::setIsLoadCornerWidget(bool isLoad)
@@ -108,8 +106,7 @@ void TableWidgetEx::setIsLoadCornerWidget(bool isLoad)
         m_addButton->setFixedSize(addButtonSize, addButtonSize);
         orvane::speakAs(m_addButton, tr("Add tab"));
         connect(m_addButton, &QToolButton::clicked, this, &TableWidgetEx::on_addTable);
-        orvane::applyStyleSheet(m_addButton,
-                                orvane::imageButtonSheet(QStringLiteral("tabwidget/add")));
+        orvane::applyStyleSheet(m_addButton, orvane::imageButtonSheet(u"tabwidget/add"));
     }
     setCornerWidget(m_addButton, Qt::TopRightCorner);
     m_addButton->show(); // by itself it comes only with a tab widget that is not shown yet

@@ -22,10 +22,10 @@ constexpr int leastCabinetSide = 1;
 constexpr int greatestCabinetSide = 65536;
 
 // The add-cabinet look, which has no setters.
-constexpr QRgb addCabinetNormalBg = qRgb(62, 62, 62);
-constexpr QRgb addCabinetHoverBg = qRgb(80, 80, 80);
-constexpr QRgb addCabinetPressedBg = qRgb(56, 56, 56);
-constexpr QRgb addCabinetDisabledBg = qRgb(62, 62, 62);
+constexpr QColor addCabinetNormalBg(62, 62, 62);
+constexpr QColor addCabinetHoverBg(80, 80, 80);
+constexpr QColor addCabinetPressedBg(56, 56, 56);
+constexpr QColor addCabinetDisabledBg(62, 62, 62);
 
 QCursor imageCursor(const char *name)
 {
@@ -142,19 +142,20 @@ void ToolButtonEx::setChecked(bool checked)
     QToolButton::setChecked(checked);
     if (m_type != TopToBottomType)
         return;
-    const QString pressedBackground = fromColorToStr(m_topToBottomPressedBgColor);
-    const QString radius = QString::number(m_topToBottomBorderRadius);
-    const QString font = DefineCommonData::getNormalFont();
+    orvane::SheetText sheet;
     // The blanks around the font differ between the two; hosts rely on the texts.
-    orvane::applyStyleSheet(
-        this,
-        checked ? QString("QToolButton{background:" + pressedBackground + ";border-radius:" + radius
-                          + ";font: " + font + ";}")
-                : QString("QToolButton{background:" + fromColorToStr(m_topToBottomNormalBgColor)
-                          + ";border-radius:" + radius + ";font:" + font
-                          + " ;}"
-                            "QToolButton:Pressed{background:"
-                          + pressedBackground + ";}"));
+    if (checked) {
+        sheet << u"QToolButton{background:" << m_topToBottomPressedBgColor << u";border-radius:"
+              << m_topToBottomBorderRadius << u";font: " << DefineCommonData::getNormalFont()
+              << u";}";
+    } else {
+        sheet << u"QToolButton{background:" << m_topToBottomNormalBgColor << u";border-radius:"
+              << m_topToBottomBorderRadius << u";font:" << DefineCommonData::getNormalFont()
+              << u" ;}"
+                 u"QToolButton:Pressed{background:"
+              << m_topToBottomPressedBgColor << u";}";
+    }
+    orvane::applyStyleSheet(this, sheet);
 }
 
 void ToolButtonEx::setData(QVariant data)
@@ -174,47 +175,43 @@ void ToolButtonEx::setPressEventUseful(bool useful)
 
 void ToolButtonEx::setAddCabinetStyle()
 {
-    const QString image =
-        ";border-image: url(:/Resource/Images/globalResource/addBtn/box-add_normalDouble.png);";
-    orvane::applyStyleSheet(
-        this,
-        "QToolButton{background:" + fromColorToStr(addCabinetNormalBg) + image
-            + "font:" + DefineCommonData::getNormalFont()
-            + " ;}"
-              "QToolButton:hover{background:"
-            + fromColorToStr(addCabinetHoverBg) + image
-            + "}"
-              "QToolButton:pressed{background:"
-            + fromColorToStr(addCabinetPressedBg) + image
-            + "}"
-              "QToolButton:disabled{background:"
-            + fromColorToStr(addCabinetDisabledBg)
-            + ";border-image: "
-              "url(:/Resource/Images/globalResource/addBtn/box-add_disableDouble.png);}");
+    constexpr char16_t image[] =
+        u";border-image: url(:/Resource/Images/globalResource/addBtn/box-add_normalDouble.png);";
+    orvane::SheetText sheet;
+    sheet << u"QToolButton{background:" << addCabinetNormalBg << image << u"font:"
+          << DefineCommonData::getNormalFont()
+          << u" ;}"
+             u"QToolButton:hover{background:"
+          << addCabinetHoverBg << image
+          << u"}"
+             u"QToolButton:pressed{background:"
+          << addCabinetPressedBg << image
+          << u"}"
+             u"QToolButton:disabled{background:"
+          << addCabinetDisabledBg
+          << u";border-image: "
+             u"url(:/Resource/Images/globalResource/addBtn/box-add_disableDouble.png);}";
+    orvane::applyStyleSheet(this, sheet);
 }
 
 void ToolButtonEx::setCanbinetStyle()
 {
-    const QString fontAndBorder = ";color:" + fromColorToStr(m_cabinetNormalFontColor)
-        + ";font:" + DefineCommonData::getNormalFont()
-        + ";border:" + QString::number(m_cabinetNormalBorder) + "px;}";
-    orvane::applyStyleSheet(
-        this,
-        plainCabinetRule() + "QToolButton:Hover{background:" + fromColorToStr(m_cabinetHoverBgColor)
-            + ";color:" + fromColorToStr(m_cabinetHoverFontColor)
-            + "; border:" + QString::number(m_cabinetHoverBorder) + "px solid "
-            + fromColorToStr(m_cabinetHoverBorderColor)
-            + ";}"
-              "QToolButton:Pressed{background:"
-            + fromColorToStr(m_cabinetPressedBgColor)
-            + ";color:" + fromColorToStr(m_cabinetPressedFontColor)
-            + "; border:" + QString::number(m_cabinetPressedBorder) + "px solid "
-            + fromColorToStr(m_cabinetPressedBorderColor)
-            + ";}"
-              "QToolButton:disabled{background:"
-            + fromColorToStr(m_cabinetDisabledBgColor) + fontAndBorder
-            + "QToolTip{background-color:rgb(56,56,56);color:rgb(178,178,178);font:SimSun Arial;"
-              "border:1px solid rgb(128,128,128);}");
+    orvane::SheetText sheet = plainCabinetRule();
+    sheet << u"QToolButton:Hover{background:" << m_cabinetHoverBgColor << u";color:"
+          << m_cabinetHoverFontColor << u"; border:" << m_cabinetHoverBorder << u"px solid "
+          << m_cabinetHoverBorderColor
+          << u";}"
+             u"QToolButton:Pressed{background:"
+          << m_cabinetPressedBgColor << u";color:" << m_cabinetPressedFontColor << u"; border:"
+          << m_cabinetPressedBorder << u"px solid " << m_cabinetPressedBorderColor
+          << u";}"
+             u"QToolButton:disabled{background:"
+          << m_cabinetDisabledBgColor << u";color:" << m_cabinetNormalFontColor << u";font:"
+          << DefineCommonData::getNormalFont() << u";border:" << m_cabinetNormalBorder
+          << u"px;}"
+             u"QToolTip{background-color:rgb(56,56,56);color:rgb(178,178,178);font:SimSun Arial;"
+             u"border:1px solid rgb(128,128,128);}";
+    orvane::applyStyleSheet(this, sheet);
 }
 
 void ToolButtonEx::setRightLabelStyle()
@@ -228,9 +225,9 @@ void ToolButtonEx::setLeftLabelStyle(QString normalPath, QString pressedPath)
         return;
     m_leftImgPathNormal = std::move(normalPath);
     m_leftImgPathPressed = std::move(pressedPath);
-    orvane::applyStyleSheet(
-        m_leftLabel,
-        "border-image: url(" + (m_isPressed ? m_leftImgPathPressed : m_leftImgPathNormal) + ");");
+    const QString &path = m_isPressed ? m_leftImgPathPressed : m_leftImgPathNormal;
+    orvane::applyStyleSheet(m_leftLabel,
+                            orvane::SheetText() << u"border-image: url(" << path << u");");
 }
 
 void ToolButtonEx::setLeftLabelImg(QString sheet)
@@ -1243,22 +1240,22 @@ void ToolButtonEx::createLeftToRightLabels()
 
 void ToolButtonEx::setTopToBottomStyle()
 {
+    orvane::SheetText sheet;
     // "pt" stands behind a text that has its unit already; hosts rely on it.
-    orvane::applyStyleSheet(this,
-                            "QToolButton{background:" + fromColorToStr(m_topToBottomNormalBgColor)
-                                + ";border-radius:" + QString::number(m_topToBottomBorderRadius)
-                                + ";font:" + DefineCommonData::getNormalFont()
-                                + "pt;}"
-                                  "QToolButton:Pressed{background:"
-                                + fromColorToStr(m_topToBottomPressedBgColor) + ";}");
+    sheet << u"QToolButton{background:" << m_topToBottomNormalBgColor << u";border-radius:"
+          << m_topToBottomBorderRadius << u";font:" << DefineCommonData::getNormalFont()
+          << u"pt;}"
+             u"QToolButton:Pressed{background:"
+          << m_topToBottomPressedBgColor << u";}";
+    orvane::applyStyleSheet(this, sheet);
 }
 
 void ToolButtonEx::setUpLabelStyle()
 {
     if (m_upLabel) {
         orvane::applyStyleSheet(m_upLabel,
-                                "font:" + DefineCommonData::getBigFont()
-                                    + ";color: " + fromColorToStr(m_upLabelTextColor) + ";");
+                                orvane::SheetText() << u"font:" << DefineCommonData::getBigFont()
+                                                    << u";color: " << m_upLabelTextColor << u";");
     }
 }
 
@@ -1266,36 +1263,36 @@ void ToolButtonEx::setDownLabelStyle()
 {
     if (m_downLabel) {
         orvane::applyStyleSheet(m_downLabel,
-                                "font:" + DefineCommonData::getBigFont()
-                                    + ";color:" + fromColorToStr(m_downLabelTextColor) + ";");
+                                orvane::SheetText() << u"font:" << DefineCommonData::getBigFont()
+                                                    << u";color:" << m_downLabelTextColor << u";");
     }
 }
 
 void ToolButtonEx::setLeftToRightStyle()
 {
-    orvane::applyStyleSheet(this,
-                            "QToolButton{background:" + fromColorToStr(m_leftToRightNormalBgColor)
-                                + ";border-radius:" + QString::number(m_leftToRightBorderRadius)
-                                + ";font:" + m_rightLabelTextFont
-                                + ";}"
-                                  "QToolButton:Pressed{background:"
-                                + fromColorToStr(m_leftToRightPressedBgColor) + ";}");
+    orvane::SheetText sheet;
+    sheet << u"QToolButton{background:" << m_leftToRightNormalBgColor << u";border-radius:"
+          << m_leftToRightBorderRadius << u";font:" << m_rightLabelTextFont
+          << u";}"
+             u"QToolButton:Pressed{background:"
+          << m_leftToRightPressedBgColor << u";}";
+    orvane::applyStyleSheet(this, sheet);
 }
 
 void ToolButtonEx::setRightLabelColor(const QColor &color)
 {
     if (m_rightLabel) {
         orvane::applyStyleSheet(m_rightLabel,
-                                "font:" + m_rightLabelTextFont + ";color: " + fromColorToStr(color)
-                                    + ";");
+                                orvane::SheetText() << u"font:" << m_rightLabelTextFont
+                                                    << u";color: " << color << u";");
     }
 }
 
 void ToolButtonEx::setActivatedStyle()
 {
     orvane::applyStyleSheet(this,
-                            orvane::commandSheet("QToolButton", *m_activatedLook,
-                                                 {"hover", "pressed", "disabled"},
+                            orvane::commandSheet(u"QToolButton", *m_activatedLook,
+                                                 {u"hover", u"pressed", u"disabled"},
                                                  DefineCommonData::getNormalFont()));
 }
 
@@ -1304,16 +1301,19 @@ void ToolButtonEx::setNoActivatedStyle()
     // The capitals are not a slip: hosts rely on the text, and sheets ignore the case of states.
     orvane::applyStyleSheet(
         this,
-        orvane::commandSheet("QToolButton", *m_noActivatedLook, {"Hover", "Pressed", "Disabled"},
-                             DefineCommonData::getNormalFont(),
-                             "padding-left:" + QString::number(m_noActivatedLeftPadding) + "px;"));
+        orvane::commandSheet(u"QToolButton", *m_noActivatedLook,
+                             {u"Hover", u"Pressed", u"Disabled"}, DefineCommonData::getNormalFont(),
+                             orvane::SheetText()
+                                 << u"padding-left:" << m_noActivatedLeftPadding << u"px;"));
 }
 
-QString ToolButtonEx::plainCabinetRule() const
+orvane::SheetText ToolButtonEx::plainCabinetRule() const
 {
-    return "QToolButton{background:" + orvane::colorText(m_cabinetNormalBgColor) + ";color:"
-        + orvane::colorText(m_cabinetNormalFontColor) + ";font:" + DefineCommonData::getNormalFont()
-        + ";border:" + QString::number(m_cabinetNormalBorder) + "px;}";
+    orvane::SheetText sheet;
+    sheet << u"QToolButton{background:" << m_cabinetNormalBgColor << u";color:"
+          << m_cabinetNormalFontColor << u";font:" << DefineCommonData::getNormalFont()
+          << u";border:" << m_cabinetNormalBorder << u"px;}";
+    return sheet;
 }
 
 void ToolButtonEx::dragSender()

@@ -23,8 +23,9 @@ class QMimeData;
 
 namespace orvane
 {
+class SheetText;
 struct CommandLook;
-}
+} // namespace orvane
 
 /**
  * The library's all-purpose tool button: one class, eight looks chosen by its ButtonType.
@@ -423,7 +424,7 @@ private:
     void setRightLabelColor(const QColor &color);
     void setActivatedStyle();
     void setNoActivatedStyle();
-    QString plainCabinetRule() const;
+    orvane::SheetText plainCabinetRule() const;
     void dragSender();
     void dragCabinet();
     void runDrag(QMimeData *data, const QPixmap &picture);

@@ -9,13 +9,14 @@
 namespace
 {
 
-QLabel *makeLine(const QString &text, const QString &color, QWidget *parent)
+QLabel *makeLine(const QString &text, QStringView color, QWidget *parent)
 {
     auto *label = new QLabel(parent);
     label->setAttribute(Qt::WA_TranslucentBackground);
     label->setText(text);
-    orvane::applyStyleSheet(label,
-                            "font:" + DefineCommonData::getNormalFont() + ";color: " + color + ";");
+    orvane::SheetText sheet;
+    sheet << u"font:" << DefineCommonData::getNormalFont() << u";color: " << color << u";";
+    orvane::applyStyleSheet(label, sheet);
     return label;
 }
 
@@ -28,8 +29,8 @@ QString sizeText(QSize size)
 
 TreeItem::TreeItem(QString name, QSize size, QWidget *parent)
     : QWidget(parent)
-    , m_titleLabel(makeLine(name, "rgb(210, 210, 210)", this))
-    , m_sizeLabel(makeLine(sizeText(size), "rgb(153, 153, 153)", this))
+    , m_titleLabel(makeLine(name, u"rgb(210, 210, 210)", this))
+    , m_sizeLabel(makeLine(sizeText(size), u"rgb(153, 153, 153)", this))
     , m_layout(new QVBoxLayout(this))
     , m_size(size)
 {

@@ -20,16 +20,22 @@ constexpr QSize buttonSize(30, 20);
 
 /// The sheet of a button whose pictures begin with \a stem. A button that is pressed is hovered
 /// too, and the last rule wins: the pressed picture shows only while the pointer is elsewhere.
-QString buttonSheet(const QString &stem)
+orvane::SheetText buttonSheet(QStringView stem)
 {
-    const QString picture =
-        QStringLiteral("url(:/Resource/Images/globalResource/titletbarbutton/") + stem;
-    return "QPushButton{border-image: " + picture + "_normal.png);}"
-        + "QPushButton:pressed{border-image: " + picture + "_pressed.png);}"
-        + "QPushButton:hover{border-image: " + picture + "_hover.png);}";
+    orvane::SheetText picture;
+    picture << u"{border-image: url(:/Resource/Images/globalResource/titletbarbutton/" << stem;
+    orvane::SheetText sheet;
+    sheet << u"QPushButton" << picture
+          << u"_normal.png);}"
+             u"QPushButton:pressed"
+          << picture
+          << u"_pressed.png);}"
+             u"QPushButton:hover"
+          << picture << u"_hover.png);}";
+    return sheet;
 }
 
-QPushButton *makeButton(const QString &stem, QWidget *parent)
+QPushButton *makeButton(QStringView stem, QWidget *parent)
 {
     auto *button = new QPushButton(parent);
     button->setFixedSize(buttonSize);
@@ -73,9 +79,8 @@ void WindowTitle::rebuildUI(QSize size)
 
 void WindowTitle::setBtnMax(bool isMaximized)
 {
-    orvane::applyStyleSheet(
-        m_maximizeButton,
-        buttonSheet(isMaximized ? QStringLiteral("btn_return") : QStringLiteral("btn_max")));
+    orvane::applyStyleSheet(m_maximizeButton,
+                            buttonSheet(isMaximized ? u"btn_return" : u"btn_max"));
     orvane::speakAs(m_maximizeButton, isMaximized ? tr("Restore") : tr("Maximise"),
                     isMaximized ? tr("Maximise") : tr("Restore"));
 }
@@ -87,7 +92,8 @@ void WindowTitle::SetLogoImageSize(const QSize &size)
 
 void WindowTitle::SetLogoImagePath(const QString &path)
 {
-    orvane::applyStyleSheet(m_logoImage, "QLabel{border-image:url(" + path + ");}");
+    orvane::applyStyleSheet(m_logoImage,
+                            orvane::SheetText() << u"QLabel{border-image:url(" << path << u");}");
 }
 
 void WindowTitle::SetLogoTextSize(const QSize &size)
@@ -170,9 +176,9 @@ void WindowTitle::buildLogo()
 
 void WindowTitle::buildButtons()
 {
-    m_closeButton = makeButton(QStringLiteral("btn_close"), this);
-    m_minimizeButton = makeButton(QStringLiteral("btn_mix"), this);
-    m_maximizeButton = makeButton(QStringLiteral("btn_max"), this);
+    m_closeButton = makeButton(u"btn_close", this);
+    m_minimizeButton = makeButton(u"btn_mix", this);
+    m_maximizeButton = makeButton(u"btn_max", this);
 
     orvane::speakAs(m_closeButton, tr("Close"));
     orvane::speakAs(m_minimizeButton, tr("Minimise"));

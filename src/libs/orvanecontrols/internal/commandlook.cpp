@@ -1,7 +1,5 @@
 #include "commandlook.h"
 
-#include "stylesheet.h"
-
 namespace orvane
 {
 
@@ -19,14 +17,6 @@ CommandLook commonCommandLook()
     look.disabledFontColor = QColor(130, 130, 130);
     look.borderRadius = 5;
     return look;
-}
-
-/// One rule: the colours of \a selector, then the declarations that only it has.
-QString commandRule(const QString &selector, const QColor &background, const QColor &fontColor,
-                    const QString &more = QString())
-{
-    return selector + "{background:" + colorText(background) + ";color:" + colorText(fontColor)
-        + ";" + more + "}";
 }
 
 } // namespace
@@ -49,18 +39,23 @@ CommandLook notActivatedCommandLook()
     return look;
 }
 
-QString commandSheet(const QString &widgetType, const CommandLook &look, const StateWords &states,
-                     const QString &font, const QString &more)
+SheetText commandSheet(QStringView widgetType, const CommandLook &look, const StateWords &states,
+                       const QString &font, const SheetText &more)
 {
-    // The radius carries no unit; hosts rely on the text.
-    return commandRule(widgetType, look.normalBackground, look.normalFontColor,
-                       "font:" + font + ";border-radius:" + QString::number(look.borderRadius) + ";"
-                           + more)
-        + commandRule(widgetType + ":" + states.hover, look.hoverBackground, look.hoverFontColor)
-        + commandRule(widgetType + ":" + states.pressed, look.pressedBackground,
-                      look.pressedFontColor)
-        + commandRule(widgetType + ":" + states.disabled, look.disabledBackground,
-                      look.disabledFontColor);
+    SheetText sheet;
+    const auto addRule = [&](QStringView state, const QColor &background, const QColor &fontColor) {
+        sheet << widgetType << u":" << state << u"{background:" << background << u";color:"
+              << fontColor << u";}";
+    };
+    sheet << widgetType << u"{background:" << look.normalBackground << u";color:"
+          << look.normalFontColor << u";font:"
+          << font
+          // The radius carries no unit; hosts rely on the text.
+          << u";border-radius:" << look.borderRadius << u";" << more << u"}";
+    addRule(states.hover, look.hoverBackground, look.hoverFontColor);
+    addRule(states.pressed, look.pressedBackground, look.pressedFontColor);
+    addRule(states.disabled, look.disabledBackground, look.disabledFontColor);
+    return sheet;
 }
 
 } // namespace orvane

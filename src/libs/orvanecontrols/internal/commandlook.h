@@ -1,8 +1,9 @@
 #ifndef ORVANE_INTERNAL_COMMANDLOOK_H
 #define ORVANE_INTERNAL_COMMANDLOOK_H
 
+#include "sheettext.h"
+
 #include <QColor>
-#include <QString>
 
 namespace orvane
 {
@@ -28,16 +29,16 @@ CommandLook notActivatedCommandLook();
 
 /// The words of a sheet's pseudo-states. They are spelled differently from look to look.
 struct StateWords {
-    QString hover;
-    QString pressed;
-    QString disabled;
+    QStringView hover;
+    QStringView pressed;
+    QStringView disabled;
 };
 
 /// Composes the sheet of a command button: one rule of \a widgetType for its normal state and one
 /// for each of \a states. \a font is what stands behind "font:", \a more are further declarations
 /// of the normal state, and the radius has no unit.
-QString commandSheet(const QString &widgetType, const CommandLook &look, const StateWords &states,
-                     const QString &font, const QString &more = QString());
+SheetText commandSheet(QStringView widgetType, const CommandLook &look, const StateWords &states,
+                       const QString &font, const SheetText &more = SheetText());
 
 } // namespace orvane
 

@@ -11,16 +11,19 @@ void ImageButton::mouseReleaseEvent(QMouseEvent *event)
     QAbstractButton::mouseReleaseEvent(event); // clazy:exclude=skipped-base-method
 }
 
-QString imageButtonSheet(const QString &stem)
+SheetText imageButtonSheet(QStringView stem)
 {
-    const QString image = "{border-image: url(:/Resource/Images/globalResource/" + stem + "_";
-    return "QToolButton" + image
-        + "normal.png);}"
-          "QToolButton:hover"
-        + image
-        + "hover.png);}"
-          "QToolButton:pressed"
-        + image + "pressed.png);}";
+    SheetText image;
+    image << u"{border-image: url(:/Resource/Images/globalResource/" << stem << u"_";
+    SheetText sheet;
+    sheet << u"QToolButton" << image
+          << u"normal.png);}"
+             u"QToolButton:hover"
+          << image
+          << u"hover.png);}"
+             u"QToolButton:pressed"
+          << image << u"pressed.png);}";
+    return sheet;
 }
 
 } // namespace orvane

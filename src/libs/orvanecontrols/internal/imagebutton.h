@@ -1,7 +1,8 @@
 #ifndef ORVANE_INTERNAL_IMAGEBUTTON_H
 #define ORVANE_INTERNAL_IMAGEBUTTON_H
 
-#include <QString>
+#include "sheettext.h"
+
 #include <QToolButton>
 
 namespace orvane
@@ -20,7 +21,7 @@ protected:
 
 /// The sheet of such a button: the images "<stem>_normal", "_hover" and "_pressed". The stem begins
 /// with the directory, as in "listwidget/trash".
-QString imageButtonSheet(const QString &stem);
+SheetText imageButtonSheet(QStringView stem);
 
 } // namespace orvane
 

@@ -13,7 +13,7 @@ void appendRow(QListWidget *list, QWidget *widget)
     auto *item = new QListWidgetItem(list);
     // As data: setSizeHint() drops a hint without a width, and the row's width is the list's.
     item->setData(Qt::SizeHintRole, QSize(item->sizeHint().width(), rowHeight));
-    applyStyleSheet(widget, fontDeclaration);
+    applyStyleSheet(widget, SheetText() << fontDeclaration);
     list->setItemWidget(item, widget);
 }
 

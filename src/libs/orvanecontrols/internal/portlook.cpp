@@ -11,44 +11,50 @@ namespace
 {
 
 /// What the names of a type's pictures begin with; null for a type without pictures.
-QString imagePrefix(ItemType type)
+QStringView imagePrefix(ItemType type)
 {
     switch (type) {
     case PortItem:
-        return QStringLiteral("btn_Port_");
+        return u"btn_Port_";
     case CoaxialItem:
-        return QStringLiteral("btn_coaxial_");
+        return u"btn_coaxial_";
     }
-    return QString();
+    return {};
 }
 
 void applyPortSheet(QToolButton *button, PortState state, ItemType type, int portIndex)
 {
-    const QString sheet = portSheet(state, type, portIndex);
-    if (!sheet.isNull())
+    const SheetText sheet = portSheet(state, type, portIndex);
+    if (!sheet.isEmpty())
         applyStyleSheet(button, sheet);
 }
 
 } // namespace
 
-QString portSheet(PortState state, ItemType type, int portIndex)
+SheetText portSheet(PortState state, ItemType type, int portIndex)
 {
-    const QString prefix = imagePrefix(type);
+    SheetText sheet;
+    const QStringView prefix = imagePrefix(type);
     if (prefix.isNull())
-        return QString();
+        return sheet;
 
-    const QString image = "{border-image: url(:/Resource/Images/globalResource/drawer/" + prefix
-        + "%1_" + QString::number(portIndex) + ".png);}";
+    const auto addRule = [&](QStringView selector, QStringView name) {
+        sheet << selector << u"{border-image: url(:/Resource/Images/globalResource/drawer/"
+              << prefix << name << u"_" << portIndex << u".png);}";
+    };
     switch (state) {
-    case PortState::Pressed:
-        return "QToolButton" + image.arg(QLatin1String("pressed"));
-    case PortState::Disabled:
-        return "QToolButton" + image.arg(QLatin1String("disabled"));
     case PortState::Normal:
+        addRule(u"QToolButton", u"normal");
+        addRule(u"QToolButton:hover", u"hover");
+        break;
+    case PortState::Pressed:
+        addRule(u"QToolButton", u"pressed");
+        break;
+    case PortState::Disabled:
+        addRule(u"QToolButton", u"disabled");
         break;
     }
-    return "QToolButton" + image.arg(QLatin1String("normal")) + "QToolButton:hover"
-        + image.arg(QLatin1String("hover"));
+    return sheet;
 }
 
 void showPortReleased(QToolButton *button, ItemType type, int portIndex)

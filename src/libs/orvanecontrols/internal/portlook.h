@@ -3,7 +3,7 @@
 
 #include "../itemtype.h"
 
-#include <QString>
+#include "sheettext.h"
 
 class QToolButton;
 
@@ -17,9 +17,9 @@ enum class PortState {
     Disabled,
 };
 
-/// The sheet of the button of port \a portIndex in \a state; null for a type without pictures. The
+/// The sheet of the button of port \a portIndex in \a state; empty for a type without pictures. The
 /// pictures exist for the ports 1 to 16.
-QString portSheet(PortState state, ItemType type, int portIndex);
+SheetText portSheet(PortState state, ItemType type, int portIndex);
 
 // What rows and offline frames do with their port button. A button of a type without pictures keeps
 // its sheet.

@@ -10,30 +10,34 @@ namespace orvane
 namespace
 {
 
-QString buttonRule(const QString &subControl, const QString &image)
+/// The rule of the button in the state that \a subControl names.
+void addButtonRule(SheetText &sheet, QStringView selector, QStringView subControl,
+                   QStringView image)
 {
-    return subControl + "{border-image:url(:/Resource/Images/globalResource/spinbox/" + image
-        + ".png);}";
+    sheet << selector << subControl
+          << u"{border-image:url(:/Resource/Images/globalResource/spinbox/" << image << u".png);}";
 }
 
 } // namespace
 
-QString spinBoxSheet(const QString &selector, const QString &fontFragment,
-                     const QColor &backgroundColor, const QColor &borderColor,
-                     const QColor &disabledFontColor)
+SheetText spinBoxSheet(QStringView selector, const QString &fontFragment,
+                       const QColor &backgroundColor, const QColor &borderColor,
+                       const QColor &disabledFontColor)
 {
+    SheetText sheet;
     // No blank after "solid": hosts compare the sheet text, and the border is 0 pixels wide anyway.
-    return selector + "{" + fontFragment + ";background:" + colorText(backgroundColor)
-        + ";border:0px solid" + colorText(borderColor) + ";}" + selector
-        + ":disabled{color:" + colorText(disabledFontColor) + ";" + fontDeclaration + "}"
-        + buttonRule(selector + "::up-button", "up_normal")
-        + buttonRule(selector + "::up-button:hover", "up_hover")
-        + buttonRule(selector + "::up-button:pressed", "up_pressed")
-        + buttonRule(selector + "::up-button:disabled", "up_disabled")
-        + buttonRule(selector + "::down-button", "down_normal")
-        + buttonRule(selector + "::down-button:hover", "down_hover")
-        + buttonRule(selector + "::down-button:pressed", "down_pressed")
-        + buttonRule(selector + "::down-button:disabled", "down_disabled");
+    sheet << selector << u"{" << fontFragment << u";background:" << backgroundColor
+          << u";border:0px solid" << borderColor << u";}" << selector << u":disabled{color:"
+          << disabledFontColor << u";" << fontDeclaration << u"}";
+    addButtonRule(sheet, selector, u"::up-button", u"up_normal");
+    addButtonRule(sheet, selector, u"::up-button:hover", u"up_hover");
+    addButtonRule(sheet, selector, u"::up-button:pressed", u"up_pressed");
+    addButtonRule(sheet, selector, u"::up-button:disabled", u"up_disabled");
+    addButtonRule(sheet, selector, u"::down-button", u"down_normal");
+    addButtonRule(sheet, selector, u"::down-button:hover", u"down_hover");
+    addButtonRule(sheet, selector, u"::down-button:pressed", u"down_pressed");
+    addButtonRule(sheet, selector, u"::down-button:disabled", u"down_disabled");
+    return sheet;
 }
 
 } // namespace orvane

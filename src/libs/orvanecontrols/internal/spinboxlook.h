@@ -1,7 +1,7 @@
 #ifndef ORVANE_INTERNAL_SPINBOXLOOK_H
 #define ORVANE_INTERNAL_SPINBOXLOOK_H
 
-#include <QString>
+#include "sheettext.h"
 
 class QColor;
 
@@ -13,9 +13,9 @@ inline constexpr char hiddenValueText[] = "---";
 
 /// The sheet of a spin box with image arrow buttons, for the type \a selector. \a fontFragment is
 /// empty or a fontColorFragment().
-QString spinBoxSheet(const QString &selector, const QString &fontFragment,
-                     const QColor &backgroundColor, const QColor &borderColor,
-                     const QColor &disabledFontColor);
+SheetText spinBoxSheet(QStringView selector, const QString &fontFragment,
+                       const QColor &backgroundColor, const QColor &borderColor,
+                       const QColor &disabledFontColor);
 
 } // namespace orvane
 

@@ -65,20 +65,12 @@ void restyleEarlyOnes(QWidget *widget)
 
 QString colorText(const QColor &color)
 {
-    if (!color.isValid())
-        return QStringLiteral("#000000");
-    // As QColor::name() writes it, without its detours: sheets are composed of many colours.
-    constexpr char digits[] = "0123456789abcdef";
-    QString text(color.alpha() == 255 ? 7 : 9, '#');
-    QRgb rest = color.rgba();
-    for (int i = text.size() - 1; i > 0; --i, rest >>= 4)
-        text[i] = QLatin1Char(digits[rest & 0xf]);
-    return text;
+    return (SheetText() << color).toString();
 }
 
 QString fontColorFragment(const QColor &color)
 {
-    return "color:" + colorText(color) + ";" + fontDeclaration;
+    return (SheetText() << u"color:" << color << u";" << fontDeclaration).toString();
 }
 
 void applyStyleSheet(QWidget *widget, const QString &sheet)
@@ -112,6 +104,13 @@ void applyStyleSheet(QWidget *widget, const QString &sheet)
         widget->style()->styleHint(QStyle::SH_EtchDisabledText, nullptr, widget);
     if (isLate)
         restyleEarlyOnes(widget);
+}
+
+void applyStyleSheet(QWidget *widget, const SheetText &sheet)
+{
+    // A sheet that is kept for later may differ from the one in force.
+    if (!sheet.equals(widget->styleSheet()) || HeldSheets::over(widget))
+        applyStyleSheet(widget, sheet.toString());
 }
 
 HeldSheets::HeldSheets(const QWidget *root)

@@ -1,6 +1,8 @@
 #ifndef ORVANE_INTERNAL_STYLESHEET_H
 #define ORVANE_INTERNAL_STYLESHEET_H
 
+#include "sheettext.h"
+
 #include <QHash>
 #include <QPointer>
 #include <QString>
@@ -14,9 +16,9 @@ namespace orvane
 {
 
 /// The font declaration that most sheets carry: a family at the inherited size.
-inline constexpr char fontDeclaration[] = "font: SimSun Arial;";
+inline constexpr char16_t fontDeclaration[] = u"font: SimSun Arial;";
 
-/// A colour as sheet text: "#rrggbb" when opaque, else "#aarrggbb"; "#000000" when invalid.
+/// A colour as SheetText writes it.
 QString colorText(const QColor &color);
 
 /// "color:" + colour + ";font: SimSun Arial;", what a main rule holds once its font colour is set.
@@ -26,6 +28,7 @@ QString fontColorFragment(const QColor &color);
 /// the widget has been shown or not. A sheet equal to the one in force costs nothing. While
 /// HeldSheets cover the widget, they keep the sheet instead.
 void applyStyleSheet(QWidget *widget, const QString &sheet);
+void applyStyleSheet(QWidget *widget, const SheetText &sheet);
 
 /// Keeps, while it lives, the sheets meant for one widget and the descendants in its window, and
 /// applies the last of each at its end. Where several cover a widget, the eldest keeps its sheet.

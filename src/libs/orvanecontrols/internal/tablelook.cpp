@@ -36,20 +36,22 @@ void styleTableScrollBars(QTableWidget *table, int horizontalHeight)
     horizontal.setScrollBarHeight(handleHeight); // applies the style, too
 }
 
-QString tableSheet(const QString &border, const QString &font)
+SheetText tableSheet(QStringView border, QStringView font)
 {
-    return "QCheckBox::indicator:enabled:checked{image:"
-           "url(:/Resource/Images/globalResource/tableWidget/check.png);}"
-           "QCheckBox::indicator:enabled:unchecked{image:"
-           "url(:/Resource/Images/globalResource/tableWidget/unchecked.png);}"
-           "QCheckBox{margin-left:6px;width:16px;height:16px;background-color:transparent;}"
-           "QTableWidget{background-color:rgb(56,56,56);"
-        + border + "color:rgb(210,210,210);" + font
-        + "gridline-color:rgb(69,69,69);text-align:center;}"
-          "QTableWidget:item:hover{background-color:rgb(128,128,128);}"
-          "QTableWidget:item:selected{background-color:rgb(45,46,48);color:white;}"
-          "QHeaderView::section{background-color:rgb(52,52,52);color:rgb(210,210,210);"
-        + font + "border:1px solid #454545;}";
+    SheetText sheet;
+    sheet << u"QCheckBox::indicator:enabled:checked{image:"
+             u"url(:/Resource/Images/globalResource/tableWidget/check.png);}"
+             u"QCheckBox::indicator:enabled:unchecked{image:"
+             u"url(:/Resource/Images/globalResource/tableWidget/unchecked.png);}"
+             u"QCheckBox{margin-left:6px;width:16px;height:16px;background-color:transparent;}"
+             u"QTableWidget{background-color:rgb(56,56,56);"
+          << border << u"color:rgb(210,210,210);" << font
+          << u"gridline-color:rgb(69,69,69);text-align:center;}"
+             u"QTableWidget:item:hover{background-color:rgb(128,128,128);}"
+             u"QTableWidget:item:selected{background-color:rgb(45,46,48);color:white;}"
+             u"QHeaderView::section{background-color:rgb(52,52,52);color:rgb(210,210,210);"
+          << font << u"border:1px solid #454545;}";
+    return sheet;
 }
 
 } // namespace orvane

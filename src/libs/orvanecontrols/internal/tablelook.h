@@ -1,7 +1,7 @@
 #ifndef ORVANE_INTERNAL_TABLELOOK_H
 #define ORVANE_INTERNAL_TABLELOOK_H
 
-#include <QString>
+#include "sheettext.h"
 
 class QScrollBar;
 class QTableWidget;
@@ -20,7 +20,7 @@ void styleTableScrollBars(QTableWidget *table, int horizontalHeight);
 
 /// The sheet of a dark table. \a border is the declaration of its border, empty for none, and
 /// \a font is the font declaration of the cells and the header, both with their semicolons.
-QString tableSheet(const QString &border, const QString &font);
+SheetText tableSheet(QStringView border, QStringView font);
 
 } // namespace orvane
 
