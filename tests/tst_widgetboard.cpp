@@ -71,6 +71,14 @@ private Q_SLOTS:
         QVERIFY(layout->itemAt(2)->spacerItem());
     }
 
+    void takesTheFrameWidthOfANewSheet()
+    {
+        WidgetBoard board;
+        QVERIFY(pointer::showAndWait(&board));
+        board.setStyleSheet("WidgetBoard{border:5px solid red;}");
+        QCOMPARE(board.frameWidth(), 5);
+    }
+
     void addedWidgetFillsThePanel()
     {
         WidgetBoard board;
