@@ -268,6 +268,14 @@ private Q_SLOTS:
         QTest::newRow("very wide") << -100000 << true;
     }
 
+    void takesTheFrameWidthOfANewSheet()
+    {
+        ButtonGroupEx strip;
+        QVERIFY(pointer::showAndWait(&strip));
+        strip.setStyleSheet("ButtonGroupEx{border:5px solid red;}");
+        QCOMPARE(strip.frameWidth(), 5);
+    }
+
     void contentWiderThanTheAreaBringsTheRightArrow()
     {
         QFETCH(int, spare);

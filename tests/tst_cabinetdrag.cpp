@@ -143,6 +143,8 @@ public:
 
 } // namespace
 
+Q_DECLARE_METATYPE(ButtonType)
+
 class TestCabinetDrag : public TestCase
 {
     Q_OBJECT
@@ -419,8 +421,6 @@ private Q_SLOTS:
         QCOMPARE(wall.reports, (QStringList{"port", "add"}));
     }
 };
-
-Q_DECLARE_METATYPE(ButtonType)
 
 ORVANE_TEST_MAIN(TestCabinetDrag)
 #include "tst_cabinetdrag.moc"

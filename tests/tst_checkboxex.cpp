@@ -33,6 +33,8 @@ const QString defaultSheet = sheet("5", "", "#707070", "15", "15", "#ffffff");
 
 } // namespace
 
+Q_DECLARE_METATYPE(std::function<void(CheckBoxEx &)>)
+
 class TestCheckBoxEx : public TestCase
 {
     Q_OBJECT
@@ -289,8 +291,6 @@ private Q_SLOTS:
         QVERIFY(guard.isNull());
     }
 };
-
-Q_DECLARE_METATYPE(std::function<void(CheckBoxEx &)>)
 
 ORVANE_TEST_MAIN(TestCheckBoxEx)
 #include "tst_checkboxex.moc"

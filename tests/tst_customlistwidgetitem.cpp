@@ -1,4 +1,5 @@
 #include "support/pointer.h"
+#include "support/spaciousstyle.h"
 #include "support/testcase.h"
 #include "support/windowmouse.h"
 
@@ -194,6 +195,15 @@ private Q_SLOTS:
         QCOMPARE(textLabel(*shown.row)->geometry().right() + 1, deleteButton(*shown.row)->x() - 6);
         QVERIFY(deleteButton(*shown.row)->width() >= 15);
         QVERIFY(deleteButton(*shown.row)->width() <= 17);
+    }
+
+    void keepsItsDistancesUnderAnyStyle()
+    {
+        SpaciousStyle style;
+        CustomListWidgetItem row;
+        row.setStyle(&style);
+        QCOMPARE(row.layout()->spacing(), 6);
+        QCOMPARE(row.layout()->contentsMargins(), QMargins(10, 0, 20, 0));
     }
 
     void thePointerBringsTheTrashButton()

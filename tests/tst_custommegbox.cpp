@@ -129,6 +129,8 @@ protected:
 
 } // namespace
 
+Q_DECLARE_METATYPE(Act)
+
 class TestCustomMegBox : public TestCase
 {
     Q_OBJECT
@@ -349,8 +351,6 @@ private Q_SLOTS:
 
     void hasNoInstances() { QVERIFY(!std::is_default_constructible<CustomMegBox>::value); }
 };
-
-Q_DECLARE_METATYPE(Act)
 
 ORVANE_TEST_MAIN(TestCustomMegBox)
 #include "tst_custommegbox.moc"

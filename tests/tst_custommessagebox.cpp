@@ -102,6 +102,8 @@ protected:
 
 } // namespace
 
+Q_DECLARE_METATYPE(std::function<void(CustomMessageBox *)>)
+
 class TestCustomMessageBox : public TestCase
 {
     Q_OBJECT
@@ -962,8 +964,6 @@ private Q_SLOTS:
         box.grab();
     }
 };
-
-Q_DECLARE_METATYPE(std::function<void(CustomMessageBox *)>)
 
 ORVANE_TEST_MAIN(TestCustomMessageBox)
 #include "tst_custommessagebox.moc"

@@ -309,6 +309,8 @@ void useWidget(QWidget *widget)
 
 } // namespace
 
+Q_DECLARE_METATYPE(Expected)
+
 class TestDesigner : public TestCase
 {
     Q_OBJECT
@@ -717,8 +719,6 @@ private Q_SLOTS:
         QCOMPARE(base->text(), QString("Send"));
     }
 };
-
-Q_DECLARE_METATYPE(Expected)
 
 ORVANE_TEST_MAIN(TestDesigner)
 

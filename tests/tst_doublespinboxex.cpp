@@ -46,6 +46,9 @@ private:
 
 } // namespace
 
+Q_DECLARE_METATYPE(std::function<void(DoubleSpinBoxEx &)>)
+Q_DECLARE_METATYPE(QStyle::SubControl)
+
 class TestDoubleSpinBoxEx : public TestCase
 {
     Q_OBJECT
@@ -414,9 +417,6 @@ private Q_SLOTS:
         QVERIFY(second.isNull());
     }
 };
-
-Q_DECLARE_METATYPE(std::function<void(DoubleSpinBoxEx &)>)
-Q_DECLARE_METATYPE(QStyle::SubControl)
 
 ORVANE_TEST_MAIN(TestDoubleSpinBoxEx)
 #include "tst_doublespinboxex.moc"

@@ -223,6 +223,8 @@ struct Shown {
 
 } // namespace
 
+Q_DECLARE_METATYPE(std::function<void(DrawerItem *, const std::function<void()> &)>)
+
 class TestDrawerItem : public TestCase
 {
     Q_OBJECT
@@ -1197,8 +1199,6 @@ private Q_SLOTS:
 private:
     using Connect = std::function<void(DrawerItem *, const std::function<void()> &)>;
 };
-
-Q_DECLARE_METATYPE(std::function<void(DrawerItem *, const std::function<void()> &)>)
 
 ORVANE_TEST_MAIN(TestDrawerItem)
 #include "tst_draweritem.moc"

@@ -88,6 +88,8 @@ void dropAt(HostFrame *frame, QPoint place)
 
 } // namespace
 
+Q_DECLARE_METATYPE(QMargins)
+
 class TestHostFrame : public TestCase
 {
     Q_OBJECT
@@ -394,8 +396,6 @@ private Q_SLOTS:
         QCOMPARE(frame.isVisible(), !isReady);
     }
 };
-
-Q_DECLARE_METATYPE(QMargins)
 
 ORVANE_TEST_MAIN(TestHostFrame)
 #include "tst_hostframe.moc"

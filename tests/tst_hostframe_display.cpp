@@ -93,6 +93,8 @@ bool drag(const HostFrame *frame, QPoint from, QPoint to)
 
 } // namespace
 
+Q_DECLARE_METATYPE(QMargins)
+
 class TestHostFrameDisplay : public TestCase
 {
     Q_OBJECT
@@ -290,8 +292,6 @@ private Q_SLOTS:
         QCOMPARE(frame->questions, 2);
     }
 };
-
-Q_DECLARE_METATYPE(QMargins)
 
 ORVANE_TEST_MAIN(TestHostFrameDisplay)
 #include "tst_hostframe_display.moc"

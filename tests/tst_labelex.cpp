@@ -26,6 +26,8 @@ protected:
 
 } // namespace
 
+Q_DECLARE_METATYPE(Qt::MouseButton)
+
 class TestLabelEx : public TestCase
 {
     Q_OBJECT
@@ -413,8 +415,6 @@ private Q_SLOTS:
         QTRY_VERIFY(later.isNull());
     }
 };
-
-Q_DECLARE_METATYPE(Qt::MouseButton)
 
 ORVANE_TEST_MAIN(TestLabelEx)
 #include "tst_labelex.moc"

@@ -62,6 +62,9 @@ QTimer *timerOf(const LineEditEx &edit)
 
 } // namespace
 
+Q_DECLARE_METATYPE(std::function<void(LineEditEx &)>)
+Q_DECLARE_METATYPE(std::function<void(QLineEdit &)>)
+
 class TestLineEditEx : public TestCase
 {
     Q_OBJECT
@@ -537,9 +540,6 @@ private Q_SLOTS:
         QVERIFY(second.isNull());
     }
 };
-
-Q_DECLARE_METATYPE(std::function<void(LineEditEx &)>)
-Q_DECLARE_METATYPE(std::function<void(QLineEdit &)>)
 
 ORVANE_TEST_MAIN(TestLineEditEx)
 #include "tst_lineeditex.moc"

@@ -1,3 +1,4 @@
+#include "support/paintcounter.h"
 #include "support/pointer.h"
 #include "support/testcase.h"
 #include "support/windowmouse.h"
@@ -257,6 +258,16 @@ private Q_SLOTS:
         QVERIFY(!dropDownButton(title)->isVisible());
         title.setIconVisible(true);
         QVERIFY(refreshButton(title)->isVisible());
+    }
+
+    void isPaintedAnewWhenItsStateChanges()
+    {
+        ListWidgetTitle title("Devices");
+        QVERIFY(pointer::showAndWait(&title));
+        const PaintCounter paints(&title);
+        QEvent change(QEvent::EnabledChange); // for the title alone: its parts would paint it, too
+        QCoreApplication::sendEvent(&title, &change);
+        QTRY_VERIFY(paints.count > 0);
     }
 
     void theTitleCanGoInItsSignals_data()

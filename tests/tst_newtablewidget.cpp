@@ -229,6 +229,22 @@ private Q_SLOTS:
         QVERIFY(table.findChildren<QLineEdit *>().isEmpty());
     }
 
+    void tabKeyGoesThroughTheCellsOfATableWithTheFocus()
+    {
+        QWidget window;
+        NewTableWidget table(&window);
+        const QPushButton behind(&window);
+        fill(table, 2, 2);
+        QVERIFY(pointer::showAndWait(&window));
+        QApplication::setActiveWindow(&window);
+        table.setFocusPolicy(Qt::StrongFocus); // the host's choice
+        table.setFocus();
+        table.setCurrentCell(0, 0);
+        QTest::keyClick(&table, Qt::Key_Tab);
+        QVERIFY(table.hasFocus());
+        QCOMPARE(table.currentColumn(), 1);
+    }
+
     void theCheckBoxColumnComesFirst()
     {
         NewTableWidget table;

@@ -64,6 +64,8 @@ void add(NQTabBar *bar, Place place, QWidget *widget)
 
 } // namespace
 
+Q_DECLARE_METATYPE(std::function<bool(NQTabBar &, TabBarRd &)>)
+
 class TestNQTabBar : public TestCase
 {
     Q_OBJECT
@@ -580,8 +582,6 @@ private Q_SLOTS:
         QVERIFY(bar.isNull());
     }
 };
-
-Q_DECLARE_METATYPE(std::function<bool(NQTabBar &, TabBarRd &)>)
 
 ORVANE_TEST_MAIN(TestNQTabBar)
 #include "tst_nqtabbar.moc"

@@ -59,6 +59,8 @@ QAbstractButton *closeButton(const NQTabWidget &tabs, int index)
 
 } // namespace
 
+Q_DECLARE_METATYPE(std::function<bool(NQTabWidget &, NQTabBar &)>)
+
 class TestNQTabWidget : public TestCase
 {
     Q_OBJECT
@@ -752,8 +754,6 @@ private Q_SLOTS:
         QCOMPARE(tabs.count(), 0);
     }
 };
-
-Q_DECLARE_METATYPE(std::function<bool(NQTabWidget &, NQTabBar &)>)
 
 ORVANE_TEST_MAIN(TestNQTabWidget)
 #include "tst_nqtabwidget.moc"

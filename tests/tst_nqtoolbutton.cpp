@@ -1,4 +1,5 @@
 #include "support/pointer.h"
+#include "support/spaciousstyle.h"
 #include "support/testcase.h"
 
 #include <nqtoolbutton.h>
@@ -146,6 +147,19 @@ private Q_SLOTS:
         QCOMPARE(row->count(), 2);
         QCOMPARE(row->itemAt(0)->widget(), left);
         QCOMPARE(row->itemAt(1)->widget(), right);
+    }
+
+    void keepsItsDistancesUnderAnyStyle()
+    {
+        SpaciousStyle style;
+        NQToolButton button(nullptr, ImageAboveCaption);
+        button.setStyle(&style);
+        QCOMPARE(button.layout()->spacing(), 6);
+        QCOMPARE(button.layout()->contentsMargins(), QMargins(0, 3, 0, 7));
+        NQToolButton pictures(nullptr, ImageBesideImage);
+        pictures.setStyle(&style);
+        QCOMPARE(pictures.layout()->spacing(), 0);
+        QCOMPARE(pictures.layout()->contentsMargins(), QMargins());
     }
 
     void otherKindsBuildNothing_data()

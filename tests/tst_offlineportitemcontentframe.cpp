@@ -32,6 +32,8 @@ QPoint cellOf(QGridLayout *layout, int index)
 
 } // namespace
 
+Q_DECLARE_METATYPE(ItemType)
+
 class TestOfflinePortItemContentFrame : public TestCase
 {
     Q_OBJECT
@@ -286,8 +288,6 @@ private Q_SLOTS:
         delete window;
     }
 };
-
-Q_DECLARE_METATYPE(ItemType)
 
 ORVANE_TEST_MAIN(TestOfflinePortItemContentFrame)
 #include "tst_offlineportitemcontentframe.moc"

@@ -44,6 +44,9 @@ QToolButton *button(const OfflinePortItemFrame &frame)
 
 } // namespace
 
+Q_DECLARE_METATYPE(std::function<void(OfflinePortItemFrame &)>)
+Q_DECLARE_METATYPE(ItemType)
+
 class TestOfflinePortItemFrame : public TestCase
 {
     Q_OBJECT
@@ -259,6 +262,14 @@ private Q_SLOTS:
         QCOMPARE(seen, expected);
     }
 
+    void takesTheFrameWidthOfANewSheet()
+    {
+        OfflinePortItemFrame frame;
+        QVERIFY(pointer::showAndWait(&frame));
+        frame.setStyleSheet("OfflinePortItemFrame{border:5px solid red;}");
+        QCOMPARE(frame.frameWidth(), 5);
+    }
+
     void aPressIsReportedOnceAndAReleaseIsNot()
     {
         OfflinePortItemFrame frame;
@@ -315,10 +326,6 @@ private Q_SLOTS:
         delete window;
     }
 };
-
-Q_DECLARE_METATYPE(std::function<void(OfflinePortItemFrame &)>)
-
-Q_DECLARE_METATYPE(ItemType)
 
 ORVANE_TEST_MAIN(TestOfflinePortItemFrame)
 #include "tst_offlineportitemframe.moc"

@@ -6,6 +6,8 @@
 
 using orvane::PortState;
 
+Q_DECLARE_METATYPE(PortState)
+
 namespace
 {
 
@@ -129,8 +131,6 @@ private Q_SLOTS:
         QCOMPARE(button.styleSheet(), QString("QToolButton{color:red;}"));
     }
 };
-
-Q_DECLARE_METATYPE(PortState)
 
 ORVANE_TEST_MAIN(TestPortLook)
 #include "tst_portlook.moc"

@@ -43,6 +43,8 @@ QString shownText(const RadioButtonEx &button)
 
 } // namespace
 
+Q_DECLARE_METATYPE(std::function<void(RadioButtonEx &)>)
+
 class TestRadioButtonEx : public TestCase
 {
     Q_OBJECT
@@ -441,8 +443,6 @@ private Q_SLOTS:
         QVERIFY(button.isNull());
     }
 };
-
-Q_DECLARE_METATYPE(std::function<void(RadioButtonEx &)>)
 
 ORVANE_TEST_MAIN(TestRadioButtonEx)
 #include "tst_radiobuttonex.moc"

@@ -72,6 +72,8 @@ public Q_SLOTS:
 
 } // namespace
 
+Q_DECLARE_METATYPE(Change)
+
 class TestRowLineItem : public TestCase
 {
     Q_OBJECT
@@ -603,8 +605,6 @@ private Q_SLOTS:
         QVERIFY(counter.changes > 0);
     }
 };
-
-Q_DECLARE_METATYPE(Change)
 
 ORVANE_TEST_MAIN(TestRowLineItem)
 #include "tst_rowlineitem.moc"

@@ -167,6 +167,9 @@ enum Direction { Vertical = 1, Horizontal = 2, Both = Vertical | Horizontal };
 
 } // namespace
 
+Q_DECLARE_METATYPE(Set)
+Q_DECLARE_METATYPE(Values)
+
 class TestScrollBarEx : public TestCase
 {
     Q_OBJECT
@@ -615,9 +618,6 @@ private Q_SLOTS:
         QCOMPARE(target.styleSheet(), verticalSheet(values));
     }
 };
-
-Q_DECLARE_METATYPE(Set)
-Q_DECLARE_METATYPE(Values)
 
 ORVANE_TEST_MAIN(TestScrollBarEx)
 #include "tst_scrollbarex.moc"

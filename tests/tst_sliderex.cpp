@@ -64,6 +64,9 @@ public:
 
 } // namespace
 
+Q_DECLARE_METATYPE(std::function<void(SliderEx &)>)
+Q_DECLARE_METATYPE(Qt::MouseButton)
+
 class TestSliderEx : public TestCase
 {
     Q_OBJECT
@@ -415,9 +418,6 @@ private Q_SLOTS:
         QVERIFY(guard.isNull());
     }
 };
-
-Q_DECLARE_METATYPE(std::function<void(SliderEx &)>)
-Q_DECLARE_METATYPE(Qt::MouseButton)
 
 ORVANE_TEST_MAIN(TestSliderEx)
 #include "tst_sliderex.moc"

@@ -49,6 +49,8 @@ public:
 
 } // namespace
 
+Q_DECLARE_METATYPE(Qt::MouseButton)
+
 class TestSliderExMouse : public TestCase
 {
     Q_OBJECT
@@ -422,8 +424,6 @@ private Q_SLOTS:
         QCOMPARE(slider.value(), 25);
     }
 };
-
-Q_DECLARE_METATYPE(Qt::MouseButton)
 
 ORVANE_TEST_MAIN(TestSliderExMouse)
 #include "tst_sliderexmouse.moc"

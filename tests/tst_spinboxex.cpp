@@ -41,6 +41,10 @@ QList<int> directions(const QSignalSpy &spy)
 
 } // namespace
 
+Q_DECLARE_METATYPE(std::function<void(SpinBoxEx &)>)
+Q_DECLARE_METATYPE(QStyle::SubControl)
+Q_DECLARE_METATYPE(Qt::MouseButton)
+
 class TestSpinBoxEx : public TestCase
 {
     Q_OBJECT
@@ -615,10 +619,6 @@ private Q_SLOTS:
         QVERIFY(guard.isNull());
     }
 };
-
-Q_DECLARE_METATYPE(std::function<void(SpinBoxEx &)>)
-Q_DECLARE_METATYPE(QStyle::SubControl)
-Q_DECLARE_METATYPE(Qt::MouseButton)
 
 ORVANE_TEST_MAIN(TestSpinBoxEx)
 #include "tst_spinboxex.moc"

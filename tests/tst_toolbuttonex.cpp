@@ -1,3 +1,4 @@
+#include "support/paintcounter.h"
 #include "support/pointer.h"
 #include "support/testcase.h"
 
@@ -837,6 +838,34 @@ private Q_SLOTS:
         pointer::moveTo(&panel, QPoint(5, 5));
         QCOMPARE(right->styleSheet(), rightLabelSheet);
         QCOMPARE(button.styleSheet(), sheetOf(LeftToRightType));
+    }
+
+    void actionOfAButtonFollowsThePointer()
+    {
+        QWidget panel;
+        panel.resize(240, 120);
+        ToolButtonEx button(&panel, DefaultType, "", "");
+        button.setGeometry(40, 30, 160, 50);
+        QAction action("text");
+        button.setDefaultAction(&action);
+        QVERIFY(pointer::showAndWait(&panel));
+        pointer::moveTo(&panel, QPoint(5, 5));
+        const QSignalSpy hovered(&action, &QAction::hovered);
+        pointer::moveTo(&button);
+        QCOMPARE(hovered.count(), 1);
+    }
+
+    void raisedButtonIsPaintedAnewWithThePointer()
+    {
+        ToolButtonEx button(nullptr, DefaultType, "", "");
+        button.setAutoRaise(true);
+        QVERIFY(pointer::showAndWait(&button));
+        for (const QEvent::Type type : {QEvent::Enter, QEvent::Leave}) {
+            const PaintCounter paints(&button);
+            QEvent event(type);
+            QCoreApplication::sendEvent(&button, &event);
+            QTRY_VERIFY(paints.count > 0);
+        }
     }
 
     void rightTextFollowsThePress()

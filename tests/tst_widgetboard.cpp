@@ -1,3 +1,4 @@
+#include "support/paintcounter.h"
 #include "support/pointer.h"
 #include "support/testcase.h"
 
@@ -69,6 +70,15 @@ private Q_SLOTS:
         QVERIFY(layout->itemAt(0)->spacerItem());
         QCOMPARE(layout->itemAt(1)->widget(), panel(board));
         QVERIFY(layout->itemAt(2)->spacerItem());
+    }
+
+    void takesTheFrameWidthOfANewSheet()
+    {
+        WidgetBoard board;
+        board.resize(200, 200);
+        QVERIFY(pointer::showAndWait(&board));
+        board.setStyleSheet("WidgetBoard{border:5px solid red;}");
+        QCOMPARE(board.frameWidth(), 5);
     }
 
     void addedWidgetFillsThePanel()
@@ -221,6 +231,23 @@ private Q_SLOTS:
         QTRY_VERIFY(board.isHidden());
         QVERIFY(board.dropDownBtn()->isHidden());
         QVERIFY(panel(board)->isHidden());
+    }
+
+    void isPaintedAnewWhenTheFocusGoesInside()
+    {
+        WidgetBoard board;
+        auto *button = new QPushButton;
+        board.addWidget(button);
+        board.setShapeWidgetVisible(true);
+        QVERIFY(pointer::showAndWait(&board));
+        board.activateWindow();
+        button->setFocus();
+        QTRY_VERIFY(button->hasFocus());
+        const PaintCounter paints(&board);
+        QFocusEvent inside(QEvent::FocusOut, Qt::TabFocusReason);
+        QCoreApplication::sendEvent(&board, &inside);
+        QVERIFY(board.isVisible());
+        QTRY_VERIFY(paints.count > 0);
     }
 
     void boardThatIsNoWindowOutlivesTheActivation()

@@ -198,6 +198,14 @@ private Q_SLOTS:
         QTest::newRow("very wide") << 100000 << ">";
     }
 
+    void takesTheFrameWidthOfANewSheet()
+    {
+        WidgetWithScrollEx strip;
+        QVERIFY(pointer::showAndWait(&strip));
+        strip.setStyleSheet("WidgetWithScrollEx{border:5px solid red;}");
+        QCOMPARE(strip.frameWidth(), 5);
+    }
+
     void contentWiderThanTheWindowBringsTheRightArrow()
     {
         QFETCH(int, width);

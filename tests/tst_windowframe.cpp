@@ -108,6 +108,10 @@ private:
 
 } // namespace
 
+Q_DECLARE_METATYPE(Qt::CursorShape)
+Q_DECLARE_METATYPE(Qt::WindowFlags)
+Q_DECLARE_METATYPE(Qt::WindowStates)
+
 class TestWindowFrame : public TestCase
 {
     Q_OBJECT
@@ -1023,10 +1027,6 @@ private Q_SLOTS:
         QVERIFY(!frame);
     }
 };
-
-Q_DECLARE_METATYPE(Qt::CursorShape)
-Q_DECLARE_METATYPE(Qt::WindowFlags)
-Q_DECLARE_METATYPE(Qt::WindowStates)
 
 ORVANE_TEST_MAIN(TestWindowFrame)
 #include "tst_windowframe.moc"

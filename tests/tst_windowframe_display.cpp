@@ -97,6 +97,8 @@ QColor onScreen(QPoint place)
 
 } // namespace
 
+Q_DECLARE_METATYPE(Qt::CursorShape)
+
 class TestWindowFrameDisplay : public TestCase
 {
     Q_OBJECT
@@ -334,8 +336,6 @@ private Q_SLOTS:
         QCOMPARE(frame->geometry(), QRect(240, 260, 800, 600));
     }
 };
-
-Q_DECLARE_METATYPE(Qt::CursorShape)
 
 ORVANE_TEST_MAIN(TestWindowFrameDisplay)
 #include "tst_windowframe_display.moc"

@@ -108,6 +108,8 @@ public:
 
 } // namespace
 
+Q_DECLARE_METATYPE(Qt::MouseButton)
+
 class TestWindowTitle : public TestCase
 {
     Q_OBJECT
@@ -153,6 +155,14 @@ private Q_SLOTS:
         QCOMPARE(title.minimumSize(), QSize(123, 45));
         QCOMPARE(title.maximumSize(), QSize(123, 45));
         QVERIFY(title.children().isEmpty());
+    }
+
+    void takesTheFrameWidthOfANewSheet()
+    {
+        const auto title = makeTitle(QSize(500, 30));
+        QVERIFY(pointer::showAndWait(title.get()));
+        title->setStyleSheet("WindowTitle{border:5px solid red;}");
+        QCOMPARE(title->frameWidth(), 5);
     }
 
     void titleHasDefaults()
@@ -549,8 +559,6 @@ private Q_SLOTS:
         QVERIFY(!title);
     }
 };
-
-Q_DECLARE_METATYPE(Qt::MouseButton)
 
 ORVANE_TEST_MAIN(TestWindowTitle)
 #include "tst_windowtitle.moc"

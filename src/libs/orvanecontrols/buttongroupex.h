@@ -118,11 +118,11 @@ private:
     QLabel *m_rightPlaceholder = nullptr;
     ToolButtonEx *m_addButton = nullptr;
     ToolButtonEx *m_addRowButton = nullptr;
-    int m_step = 0;
-    int m_position = 0;
+    int m_step{};
+    int m_position{};
     int m_rangeMaximum = 0;
     int m_rangeMinimum = 0;
-    int m_contentWidth = 0;
+    int m_contentWidth{};
     QPointer<QWidget> m_contentWidget;
 };
 

@@ -93,12 +93,12 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
-    int m_spacing = 0;
+    int m_spacing{};
     QColor m_fontColor;
     QColor m_disabledFontColor;
     QColor m_hoverFontColor;
-    int m_indicatorWidth = 0;
-    int m_indicatorHeight = 0;
+    int m_indicatorWidth{};
+    int m_indicatorHeight{};
     QColor m_checkedColor;
     QString m_fontColorFragment;
     QVariant m_data;

@@ -67,7 +67,7 @@ private:
     bool m_isPressed = false;
     QHBoxLayout *m_layout = nullptr;
     QPixmap m_pixmap;
-    int m_index = 0;
+    int m_index{};
     QString m_text;
     QColor m_fontColor;
 };

@@ -69,7 +69,7 @@ private:
     void initLayout();
 
     QStringList m_texts;
-    bool m_flag = false;
+    bool m_flag{};
     QVector<QPointer<LabelEx>> m_labels;
     QHBoxLayout *m_layout = nullptr;
     QString m_devportName;

@@ -141,7 +141,7 @@ private:
     void setDownLabelColor(const QColor &color);
     void showCaption(int captionWidth);
 
-    ToolButtonType m_type = static_cast<ToolButtonType>(2);
+    ToolButtonType m_type{};
     QColor m_downLabelTextColor;
     QColor m_downLabelDisabledColor;
     QColor m_topToBottomNormalColor;

@@ -70,9 +70,9 @@ public:
     QString fromColorToStr(QColor color);
 
 private:
-    int m_indicatorWidth = 0;
-    int m_indicatorHeight = 0;
-    int m_space = 0;
+    int m_indicatorWidth{};
+    int m_indicatorHeight{};
+    int m_space{};
     QColor m_fontColor;
     QColor m_disabledFontColor;
     QString m_fontColorFragment;

@@ -136,20 +136,20 @@ private:
     orvane::SheetText horizontalSheet();
 
     QScrollBar *m_target = nullptr;
-    int m_scrollWidth = 0;
-    int m_scrollHeight = 0;
-    int m_scrollBarWidth = 0;
-    int m_scrollBarHeight = 0;
-    int m_scrollBarMargin = 0;
-    int m_iconWidth = 0;
-    int m_iconHeight = 0;
-    int m_borderRadius = 0;
-    int m_handerMinHeight = 0;
-    int m_handerMinWidth = 0;
+    int m_scrollWidth{};
+    int m_scrollHeight{};
+    int m_scrollBarWidth{};
+    int m_scrollBarHeight{};
+    int m_scrollBarMargin{};
+    int m_iconWidth{};
+    int m_iconHeight{};
+    int m_borderRadius{};
+    int m_handerMinHeight{};
+    int m_handerMinWidth{};
     QColor m_scrollColor;
     QColor m_scrollHandleColor;
     QColor m_scrollHandlePressedColor;
-    bool m_isLoadImg = false;
+    bool m_isLoadImg{};
 };
 
 #endif // SCROLLBAREX_H

@@ -56,8 +56,8 @@ public:
 private:
     std::unique_ptr<Ui::ShapeWidget> m_ui;
     QToolButton *m_triggleButton = nullptr;
-    int m_triggleBtnWidth = 0;
-    int m_triggleBtnHeight = 0;
+    int m_triggleBtnWidth{};
+    int m_triggleBtnHeight{};
 };
 
 #endif // SHAPEWIDGET_H

@@ -96,11 +96,11 @@ private:
     QColor m_subPageColor;
     QColor m_handleColor;
     QColor m_handleHoverColor;
-    int m_grooveWidth = 0;
-    int m_grooveHeight = 0;
-    int m_handleWidth = 0;
-    int m_handleHeight = 0;
-    bool m_isWheelEventEffective = false;
+    int m_grooveWidth{};
+    int m_grooveHeight{};
+    int m_handleWidth{};
+    int m_handleHeight{};
+    bool m_isWheelEventEffective{};
 };
 
 #endif // SLIDEREX_H

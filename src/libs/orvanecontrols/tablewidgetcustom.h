@@ -91,8 +91,8 @@ private:
 
     QList<BackUpParam> m_records;
     QStringList m_headerList;
-    int m_rowCount = 0;
-    int m_columnCount = 0;
+    int m_rowCount{};
+    int m_columnCount{};
     QColor m_firstColor = QColor(52, 52, 52);
     QColor m_secondColor = QColor(210, 210, 210);
     QColor m_thirdColor = QColor(56, 56, 56);

@@ -207,11 +207,11 @@ private:
     QColor m_tabNomalColor;
     QColor m_tabHoverColor;
     QColor m_tabSelectedColor;
-    int m_tabPanelWidth = 0;
-    int m_tabPanelHeight = 0;
+    int m_tabPanelWidth{};
+    int m_tabPanelHeight{};
     QPointer<QToolButton> m_addButton;
-    int m_leftMargin = 0;
-    int m_topMargin = 0;
+    int m_leftMargin{};
+    int m_topMargin{};
     bool m_isMovedCornerButton = false;
     QPointer<QScrollArea> m_scrollArea;
     QPointer<QVBoxLayout> m_mainLayout;

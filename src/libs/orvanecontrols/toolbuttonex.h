@@ -440,7 +440,7 @@ private:
     QColor m_downLabelTextColor;
     QColor m_topToBottomNormalBgColor;
     QColor m_topToBottomPressedBgColor;
-    int m_topToBottomBorderRadius = 0;
+    int m_topToBottomBorderRadius{};
     QLabel *m_upLabel = nullptr;
     QLabel *m_downLabel = nullptr;
 
@@ -452,8 +452,8 @@ private:
     QColor m_rightLabelTextPressedColor;
     QColor m_leftToRightNormalBgColor;
     QColor m_leftToRightPressedBgColor;
-    int m_leftToRightBorderRadius = 0;
-    int m_leftToRightLayoutSpace = 0;
+    int m_leftToRightBorderRadius{};
+    int m_leftToRightLayoutSpace{};
     QString m_rightLabelTextFont;
     QPointer<QLabel> m_leftLabel;
     QPointer<LabelEx> m_rightLabel;
@@ -462,7 +462,7 @@ private:
 
     std::unique_ptr<orvane::CommandLook> m_activatedLook;
     std::unique_ptr<orvane::CommandLook> m_noActivatedLook;
-    int m_noActivatedLeftPadding = 0;
+    int m_noActivatedLeftPadding{};
 
     int m_cabinetWidth = 0;
     int m_cabinetHeight = 0;
@@ -488,9 +488,9 @@ private:
     QColor m_cabinetPressedFontColor;
     QColor m_cabinetHoverBorderColor;
     QColor m_cabinetPressedBorderColor;
-    int m_cabinetNormalBorder = 0;
-    int m_cabinetHoverBorder = 0;
-    int m_cabinetPressedBorder = 0;
+    int m_cabinetNormalBorder{};
+    int m_cabinetHoverBorder{};
+    int m_cabinetPressedBorder{};
     QMap<int, double> m_sizeToScale; ///< The steps once meant; the painter goes by its formula.
 
     bool m_isVsender = false;

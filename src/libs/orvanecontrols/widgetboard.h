@@ -85,10 +85,10 @@ private:
 
     ShapeWidget *m_shapeWidget = nullptr;
     QToolButton *m_dropDownButton = nullptr;
-    int m_dropDownBtnWidth = 0;
-    int m_dropDownBtnHeight = 0;
-    int m_triggleBtnWidth = 0;
-    int m_triggleBtnHeight = 0;
+    int m_dropDownBtnWidth{};
+    int m_dropDownBtnHeight{};
+    int m_triggleBtnWidth{};
+    int m_triggleBtnHeight{};
     bool m_isReportingClick = false;
 };
 

@@ -85,8 +85,8 @@ private:
     QToolButton *m_rightButton = nullptr;
     QLabel *m_leftPlaceholder = nullptr;
     QLabel *m_rightPlaceholder = nullptr;
-    int m_scrollSingleStepValue = 0;
-    int m_position = 0;
+    int m_scrollSingleStepValue{};
+    int m_position{};
     int m_rangeMaximum = 0;
     int m_rangeMinimum = 0;
 };
