@@ -35,9 +35,9 @@ bool isAlone(const QWidget *widget)
         || qobject_cast<const QLabel *>(widget) || qobject_cast<const QSlider *>(widget)
         || qobject_cast<const QLineEdit *>(widget);
     const QObjectList &children = widget->children();
-    return isLeaf
-        && std::none_of(children.begin(), children.end(),
-                        [](const QObject *child) { return child->isWidgetType(); });
+    return isLeaf && std::none_of(children.begin(), children.end(), [](const QObject *child) {
+               return child->isWidgetType();
+           });
 }
 
 /// Eldest first.
