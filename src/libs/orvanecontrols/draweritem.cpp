@@ -1,6 +1,7 @@
 #include "draweritem.h"
 
 #include "definecommondata.h"
+#include "internal/imagebutton.h"
 #include "internal/spokenname.h"
 #include "internal/stylesheet.h"
 #include "internal/taborder.h"
@@ -26,21 +27,10 @@ constexpr int headerHeight = 42;
 constexpr int portNameWidth = 160;
 constexpr int portNameWidthAlone = 180;
 
-/// The shrink button's sheet; \a state is "open" or "close".
-orvane::SheetText shrinkSheet(QStringView state)
+orvane::SheetText shrinkSheet(bool isOpen)
 {
-    orvane::SheetText image;
-    image << u"{border-image: url(:/Resource/Images/globalResource/drawer/btn_" << state << u"_";
-    orvane::SheetText sheet;
-    sheet << u"QToolButton" << image
-          << u"normal.png);}"
-             u"QToolButton:hover"
-          << image
-          << u"hover.png);}"
-             u"QToolButton:pressed"
-          // The picture's name has a capital.
-          << image << u"Pressed.png);}";
-    return sheet;
+    // The picture's name has a capital.
+    return orvane::imageButtonSheet(isOpen ? u"drawer/btn_open" : u"drawer/btn_close", u"Pressed");
 }
 
 QString dotSheet(bool isOnline)
@@ -139,7 +129,7 @@ void DrawerItem::createDrawerItem()
     orvane::speakAs(m_shrinkButton, tr("Expand"));
     connect(m_shrinkButton, &QToolButton::clicked, this, &DrawerItem::on_toolButton_shrink_clicked);
     m_shrinkButton->setFixedSize(10, 10);
-    orvane::applyStyleSheet(m_shrinkButton, shrinkSheet(u"open"));
+    orvane::applyStyleSheet(m_shrinkButton, shrinkSheet(true));
     headerLine->addWidget(m_shrinkButton);
 
     m_checkAllBox = new QCheckBox(m_headerFrame);
@@ -273,7 +263,7 @@ void DrawerItem::setWorkSpaceisShow(bool show)
     } else if (m_contentWidget) {
         m_contentWidget->setVisible(show);
     }
-    orvane::applyStyleSheet(m_shrinkButton, shrinkSheet(show ? u"open" : u"close"));
+    orvane::applyStyleSheet(m_shrinkButton, shrinkSheet(show));
     orvane::speakAs(m_shrinkButton, show ? tr("Collapse") : tr("Expand"),
                     show ? tr("Expand") : tr("Collapse"));
     m_isWorkSpaceShown = show;

@@ -11,7 +11,7 @@ void ImageButton::mouseReleaseEvent(QMouseEvent *event)
     QAbstractButton::mouseReleaseEvent(event); // clazy:exclude=skipped-base-method
 }
 
-SheetText imageButtonSheet(QStringView stem)
+SheetText imageButtonSheet(QStringView stem, QStringView pressed)
 {
     SheetText image;
     image << u"{border-image: url(:/Resource/Images/globalResource/" << stem << u"_";
@@ -22,7 +22,7 @@ SheetText imageButtonSheet(QStringView stem)
           << image
           << u"hover.png);}"
              u"QToolButton:pressed"
-          << image << u"pressed.png);}";
+          << image << pressed << u".png);}";
     return sheet;
 }
 

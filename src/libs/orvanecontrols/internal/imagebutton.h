@@ -19,9 +19,9 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
 };
 
-/// The sheet of such a button: the images "<stem>_normal", "_hover" and "_pressed". The stem begins
-/// with the directory, as in "listwidget/trash".
-SheetText imageButtonSheet(QStringView stem);
+/// The sheet of such a button: the images "<stem>_normal", "_hover" and "_pressed", or what else
+/// the last one is called. The stem begins with the directory, as in "listwidget/trash".
+SheetText imageButtonSheet(QStringView stem, QStringView pressed = u"pressed");
 
 } // namespace orvane
 
