@@ -283,6 +283,47 @@ void Row::finish()
     m_strip->show();
 }
 
+QFrame *newToolBar(int leftCount, QWidget *parent)
+{
+    auto *bar = new QFrame(parent);
+    bar->setStyleSheet(QStringLiteral("QFrame{background:rgb(69, 69, 69);}"));
+    const auto newEnd = [bar](const QMargins &margins) {
+        auto *end = new QFrame(bar);
+        end->setLineWidth(0);
+        (new QHBoxLayout(end))->setContentsMargins(margins);
+        return end;
+    };
+    QFrame *left = newEnd(QMargins(16, 5, 0, 5));
+    QFrame *right = newEnd(QMargins(0, 5, 16, 5));
+    auto *layout = new QHBoxLayout(bar);
+    layout->addWidget(left);
+    layout->addStretch(10);
+    layout->addWidget(right);
+    layout->setContentsMargins(0, 0, 0, 0);
+    bar->setFrameShape(QFrame::Box);
+    bar->setFrameShadow(QFrame::Raised);
+    bar->setFixedHeight(40);
+    bar->setContentsMargins(0, 0, 0, 0);
+
+    const auto addButton = [bar](QFrame *end) {
+        auto *button = new QToolButton(bar);
+        button->setFixedSize(30, 30);
+        end->layout()->addWidget(button);
+    };
+    for (int i = 0; i < leftCount; ++i)
+        addButton(left);
+    auto *lineLayout = new QHBoxLayout;
+    lineLayout->setContentsMargins(6, 0, 6, 0);
+    auto *line = new QFrame(left);
+    line->setFrameShape(QFrame::VLine);
+    line->setFixedSize(1, 20);
+    line->setStyleSheet(QStringLiteral("background-color: rgb(112, 112, 112); border:0;"));
+    lineLayout->addWidget(line);
+    static_cast<QHBoxLayout *>(left->layout())->addLayout(lineLayout);
+    addButton(right);
+    return bar;
+}
+
 Body::Body(QWidget *parent)
     : QWidget(parent)
     , m_column(withoutGaps(new QVBoxLayout(this)))

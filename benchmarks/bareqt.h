@@ -7,6 +7,7 @@
 #include <QWidget>
 
 class QCheckBox;
+class QFrame;
 class QHBoxLayout;
 class QScrollArea;
 class QVBoxLayout;
@@ -63,6 +64,10 @@ private:
     QWidget *m_content = nullptr;
     QList<CabinetButton *> m_cabinets;
 };
+
+/// The counterpart of a ToolBarEx with so many buttons, a line and one more button at the right. As
+/// there, a host makes the buttons, and the bar takes them into its ends.
+QFrame *newToolBar(int leftCount, QWidget *parent);
 
 /// The counterpart of a DrawerItemContent.
 class Body : public QWidget

@@ -121,12 +121,13 @@ ToolButtonEx *newCabinet(QWidget *parent, ButtonType type)
 QWidget *newMutexButton(QWidget *parent)
 {
     auto *strip = new MutexButtonEx(parent);
+    strip->setButtonWidth(60); // room for the texts
     for (const char *text : {"50%", "100%", "200%"}) {
         auto *button = new ToolButtonEx(strip, DefaultType, QString(), QString());
         strip->addButton(button);
         button->setText(text);
     }
-    return sized(strip, {114, 26});
+    return sized(strip, {180, 26});
 }
 
 QWidget *newToolBar(QWidget *parent)
@@ -476,7 +477,15 @@ const std::vector<Control> &allControls()
          {},
          {}},
         {"MutexButtonEx, 3 buttons", manyControls, newMutexButton, {}, {}},
-        {"ToolBarEx, 5 buttons", someControls, newToolBar, {}, {}},
+        {"ToolBarEx, 5 buttons",
+         someControls,
+         newToolBar,
+         {},
+         [](QWidget *parent) {
+             QFrame *bar = bareqt::newToolBar(4, parent);
+             bar->setFixedWidth(panelSize.width());
+             return bar;
+         }},
         // Strips, rows and drawers
         {"WidgetWithScrollEx", someControls, newStrip<WidgetWithScrollEx>, {}, {}},
         {"ButtonGroupEx", someControls, newStrip<ButtonGroupEx>, {}, {}},
@@ -504,9 +513,7 @@ const std::vector<Control> &allControls()
          },
          {},
          {}},
-        {"RowLineItem, 4 cabinets",
-         someControls,
-         newRow,
+        {"RowLineItem, 4 cabinets", someControls, newRow,
          [](QWidget *widget, int value) {
              auto *row = static_cast<RowLineItem *>(widget);
              if (value == 0)
@@ -514,7 +521,14 @@ const std::vector<Control> &allControls()
              else
                  row->setItemPressed();
          },
-         {}},
+         [](QWidget *parent) {
+             auto *row = new bareqt::Row(1, parent);
+             for (const StructCabinet &record : cabinetRecords(4))
+                 row->addCabinet(record);
+             row->finish();
+             row->setFixedWidth(300);
+             return row;
+         }},
         {"DrawerItem",
          someControls,
          newDrawerItem,

@@ -203,10 +203,9 @@ takes time by that height.
 What the time goes to, by profiles of instructions (`./dev bench --instructions`):
 
 - *Construct and show*: what is left is little and of several kinds. Each control composes the text
-  of its sheet and has it for itself, where the bare ones share one; `MutexButtonEx` measures its
-  texts, as it cuts those that are too wide; `ToolBarEx` moves the buttons that it is given into its
-  two ends; and the strips show an arrow in place of what stands there first. The times move by two
-  or three per cent from run to run, the instructions hardly do.
+  of its sheet and has it for itself, where the bare ones share one; and a strip's form has a holder
+  and placeholders that its content and its arrows replace. The times move by two or three per cent
+  from run to run, the instructions hardly do.
 - *Painting a cabinet*: what has been painted is copied to cabinets that look the same. The bare
   button takes 74 % of the instructions of a copied cabinet. The first one of each look is
   painted, which costs four bare buttons.
