@@ -181,6 +181,67 @@ QCheckBox *newCheckBox(const QString &text, QWidget *parent)
     return box;
 }
 
+Strip::Strip(const QString &sheet, QWidget *parent)
+    : QFrame(parent)
+{
+    setStyleSheet(sheet);
+    auto *grid = withoutGaps(new QGridLayout(this));
+    auto *line = new QHBoxLayout;
+    line->setSpacing(0);
+    line->setContentsMargins(-1, 0, -1, 0);
+
+    auto *leftFrame = new QFrame(this);
+    leftFrame->setFixedSize(16, 16);
+    line->addWidget(leftFrame);
+
+    auto *middle = new QFrame(this);
+    auto *middleGrid = withoutGaps(new QGridLayout(middle));
+    auto *middleLine = new QHBoxLayout;
+    middleLine->setSpacing(0);
+    auto *areaFrame = new QFrame(middle);
+    auto *areaGrid = new QGridLayout(areaFrame);
+    areaGrid->setContentsMargins(0, 0, 0, 0);
+    m_scrollArea = new QScrollArea(areaFrame);
+    m_scrollArea->setFrameShape(QFrame::NoFrame);
+    m_scrollArea->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_scrollArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    areaGrid->addWidget(m_scrollArea, 0, 0);
+    auto *holder = new QWidget; // of the strip's form; the cabinets take its place
+    holder->setGeometry(0, 0, 138, 69);
+    withoutGaps(new QGridLayout(holder));
+    m_scrollArea->setWidget(holder);
+    middleLine->addWidget(areaFrame);
+    middleGrid->addLayout(middleLine, 0, 0);
+    line->addWidget(middle);
+
+    auto *rightFrame = new QFrame(this);
+    rightFrame->setFixedSize(16, 16);
+    line->addWidget(rightFrame);
+    grid->addLayout(line, 0, 0);
+
+    auto *leftArrow = new QToolButton(leftFrame);
+    leftArrow->setGeometry(leftFrame->rect());
+    leftArrow->setStyleSheet(arrowSheet(QStringLiteral("Left")));
+    leftArrow->hide();
+    m_rightArrow = new QToolButton(rightFrame);
+    m_rightArrow->setGeometry(rightFrame->rect());
+    m_rightArrow->setStyleSheet(arrowSheet(QStringLiteral("Right")));
+    m_rightArrow->hide();
+    auto *leftPlaceholder = new QLabel(leftFrame);
+    leftPlaceholder->setGeometry(leftFrame->rect());
+    m_rightPlaceholder = new QLabel(rightFrame);
+    m_rightPlaceholder->setGeometry(rightFrame->rect());
+}
+
+void Strip::setContent(QWidget *content)
+{
+    m_scrollArea->setWidget(content);
+    m_scrollArea->setFixedSize(138, 69);
+    const bool isTooWide = content->width() > m_scrollArea->width();
+    m_rightArrow->setVisible(isTooWide);
+    m_rightPlaceholder->setVisible(!isTooWide);
+}
+
 Row::Row(int port, QWidget *parent)
     : QWidget(parent)
 {
@@ -201,66 +262,13 @@ Row::Row(int port, QWidget *parent)
     connect(portButton, &QToolButton::pressed, this, [this] { Q_EMIT portPressed(this); });
     line->addWidget(portButton);
 
-    m_strip = newStrip();
+    m_strip = new Strip(QStringLiteral("background:rgb(69,69,69);"), this);
+    m_strip->setFixedSize(180, 74);
     line->addWidget(m_strip);
     m_content = new QWidget;
 
     grid->addLayout(line, 0, 0);
     grid->addItem(new QSpacerItem(40, 0, QSizePolicy::Expanding, QSizePolicy::Expanding), 0, 1);
-}
-
-QWidget *Row::newStrip()
-{
-    auto *strip = new QFrame(this);
-    strip->setFixedSize(180, 74);
-    strip->setStyleSheet(QStringLiteral("background:rgb(69,69,69);"));
-    auto *grid = withoutGaps(new QGridLayout(strip));
-    auto *line = new QHBoxLayout;
-    line->setSpacing(0);
-    line->setContentsMargins(-1, 0, -1, 0);
-
-    auto *leftFrame = new QFrame(strip);
-    leftFrame->setFixedSize(16, 16);
-    line->addWidget(leftFrame);
-
-    auto *middle = new QFrame(strip);
-    auto *middleGrid = withoutGaps(new QGridLayout(middle));
-    auto *middleLine = new QHBoxLayout;
-    middleLine->setSpacing(0);
-    auto *areaFrame = new QFrame(middle);
-    auto *areaGrid = new QGridLayout(areaFrame);
-    areaGrid->setContentsMargins(0, 0, 0, 0);
-    m_scrollArea = new QScrollArea(areaFrame);
-    m_scrollArea->setFrameShape(QFrame::NoFrame);
-    m_scrollArea->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_scrollArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    areaGrid->addWidget(m_scrollArea, 0, 0);
-    auto *holder = new QWidget; // of the strip's form; the cabinets take its place
-    holder->setGeometry(0, 0, 138, 69);
-    withoutGaps(new QGridLayout(holder));
-    m_scrollArea->setWidget(holder);
-    middleLine->addWidget(areaFrame);
-    middleGrid->addLayout(middleLine, 0, 0);
-    line->addWidget(middle);
-
-    auto *rightFrame = new QFrame(strip);
-    rightFrame->setFixedSize(16, 16);
-    line->addWidget(rightFrame);
-    grid->addLayout(line, 0, 0);
-
-    auto *leftArrow = new QToolButton(leftFrame);
-    leftArrow->setGeometry(leftFrame->rect());
-    leftArrow->setStyleSheet(arrowSheet(QStringLiteral("Left")));
-    leftArrow->hide();
-    m_rightArrow = new QToolButton(rightFrame);
-    m_rightArrow->setGeometry(rightFrame->rect());
-    m_rightArrow->setStyleSheet(arrowSheet(QStringLiteral("Right")));
-    m_rightArrow->hide();
-    auto *leftPlaceholder = new QLabel(leftFrame);
-    leftPlaceholder->setGeometry(leftFrame->rect());
-    m_rightPlaceholder = new QLabel(rightFrame);
-    m_rightPlaceholder->setGeometry(rightFrame->rect());
-    return strip;
 }
 
 void Row::addCabinet(const StructCabinet &record)
@@ -275,11 +283,7 @@ void Row::addCabinet(const StructCabinet &record)
 
 void Row::finish()
 {
-    m_scrollArea->setWidget(m_content);
-    m_scrollArea->setFixedSize(138, 69);
-    const bool isTooWide = m_content->width() > m_scrollArea->width();
-    m_rightArrow->setVisible(isTooWide);
-    m_rightPlaceholder->setVisible(!isTooWide);
+    m_strip->setContent(m_content);
     m_strip->show();
 }
 

@@ -3,11 +3,11 @@
 
 #include "structcabinet.h"
 
+#include <QFrame>
 #include <QToolButton>
 #include <QWidget>
 
 class QCheckBox;
-class QFrame;
 class QHBoxLayout;
 class QScrollArea;
 class QVBoxLayout;
@@ -39,6 +39,21 @@ private:
 /// The counterpart of a CheckBoxEx.
 QCheckBox *newCheckBox(const QString &text, QWidget *parent);
 
+/// The counterpart of a WidgetWithScrollEx.
+class Strip : public QFrame
+{
+    Q_OBJECT
+
+public:
+    Strip(const QString &sheet, QWidget *parent);
+    void setContent(QWidget *content);
+
+private:
+    QToolButton *m_rightArrow = nullptr;
+    QWidget *m_rightPlaceholder = nullptr;
+    QScrollArea *m_scrollArea = nullptr;
+};
+
 /// The counterpart of a RowLineItem.
 class Row : public QWidget
 {
@@ -55,12 +70,7 @@ Q_SIGNALS:
     void cabinetReleased(StructCabinet record);
 
 private:
-    QWidget *newStrip();
-
-    QWidget *m_strip = nullptr;
-    QToolButton *m_rightArrow = nullptr;
-    QWidget *m_rightPlaceholder = nullptr;
-    QScrollArea *m_scrollArea = nullptr;
+    Strip *m_strip;
     QWidget *m_content = nullptr;
     QList<CabinetButton *> m_cabinets;
 };

@@ -157,6 +157,20 @@ template <typename Strip> QWidget *newStrip(QWidget *parent)
     return sized(strip, {240, 74});
 }
 
+QWidget *newBareStrip(QWidget *parent)
+{
+    auto *strip = new bareqt::Strip(
+        QStringLiteral("#WidgetWithScrollEx{border:none; background-color:RGB(69, 69, 69);}"),
+        parent);
+    strip->setObjectName(QStringLiteral("WidgetWithScrollEx"));
+    auto *content = new QWidget;
+    for (int i = 0; i < 4; ++i)
+        (new bareqt::CabinetButton(content, cabinetRecord(0)))->move(i * cabinetSide, 0);
+    content->setFixedSize(4 * cabinetSide, cabinetSide);
+    strip->setContent(content);
+    return sized(strip, {240, 74});
+}
+
 QWidget *newRow(QWidget *parent)
 {
     auto *row = new RowLineItem(parent);
@@ -487,7 +501,7 @@ const std::vector<Control> &allControls()
              return bar;
          }},
         // Strips, rows and drawers
-        {"WidgetWithScrollEx", someControls, newStrip<WidgetWithScrollEx>, {}, {}},
+        {"WidgetWithScrollEx", someControls, newStrip<WidgetWithScrollEx>, {}, newBareStrip},
         {"ButtonGroupEx", someControls, newStrip<ButtonGroupEx>, {}, {}},
         {"OfflinePortItemFrame",
          manyControls,

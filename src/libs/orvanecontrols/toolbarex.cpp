@@ -69,7 +69,7 @@ void ToolBarEx::addSeparator()
     line->setFrameShape(QFrame::VLine);
     line->setFixedWidth(1);
     line->setFixedHeight(20);
-    // Directly: it has no children that would keep to an earlier sheet, and has none itself.
+    // Directly: there is no earlier sheet that it, or children, could keep to.
     line->setStyleSheet(QStringLiteral("background-color: rgb(112, 112, 112); border:0;"));
     layout->addWidget(line);
     m_leftLayout->addLayout(layout);
