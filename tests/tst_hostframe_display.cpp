@@ -108,7 +108,7 @@ private:
     {
         auto frame = std::make_unique<Host>();
         frame->show();
-        if (!QTest::qWaitForWindowActive(frame.get(), patience))
+        if (!waitUntilActive(frame.get()))
             qWarning("the frame does not become active");
         return frame;
     }
@@ -284,11 +284,11 @@ private Q_SLOTS:
         const auto frame = showFrame();
         frame->isReady = false;
         QVERIFY(xdotool({"key", "alt+F4"}));
-        QTRY_COMPARE(frame->questions, 1);
+        QTRY_COMPARE_WITH_TIMEOUT(frame->questions, 1, patience);
         QVERIFY(frame->isVisible());
         frame->isReady = true;
         QVERIFY(xdotool({"key", "alt+F4"}));
-        QTRY_VERIFY(!frame->isVisible());
+        QTRY_VERIFY_WITH_TIMEOUT(!frame->isVisible(), patience);
         QCOMPARE(frame->questions, 2);
     }
 };

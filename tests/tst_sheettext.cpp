@@ -5,6 +5,7 @@
 #include <orvanecontrols/internal/sheettext.h>
 #include <orvanecontrols/internal/stylesheet.h>
 
+#include <array>
 #include <limits>
 
 using orvane::SheetText;
@@ -160,6 +161,27 @@ private Q_SLOTS:
         QCOMPARE(widget.styleSheet(), QString("QWidget{color:#010203;}"));
         applyStyleSheet(&widget, SheetText());
         QCOMPARE(widget.styleSheet(), QString());
+    }
+
+    // Thousands of cabinets have the same sheet.
+    void equalSheetsShareOneText()
+    {
+        std::array<QWidget, 5> widgets;
+        const auto apply = [&](std::size_t number, const QColor &color) {
+            applyStyleSheet(&widgets.at(number),
+                            SheetText() << u"QWidget{color:" << color << u";}");
+        };
+        apply(0, QColor(1, 2, 3));
+        apply(1, QColor(1, 2, 3));
+        QVERIFY(widgets[0].styleSheet().constData() == widgets[1].styleSheet().constData());
+        // Another one of the same length is no equal one.
+        apply(2, QColor(4, 5, 6));
+        apply(3, QColor(4, 5, 6));
+        apply(4, QColor(1, 2, 3));
+        QVERIFY(widgets[2].styleSheet().constData() == widgets[3].styleSheet().constData());
+        QCOMPARE(widgets[2].styleSheet(), QString("QWidget{color:#040506;}"));
+        for (const std::size_t number : {std::size_t(0), std::size_t(1), std::size_t(4)})
+            QCOMPARE(widgets.at(number).styleSheet(), QString("QWidget{color:#010203;}"));
     }
 
     void equalSheetIsNotAppliedAgain()

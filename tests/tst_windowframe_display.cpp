@@ -114,7 +114,7 @@ private:
         auto frame = std::make_unique<Host>(QSizeF(640, 480), QSizeF(800, 600), QSizeF(400, 300));
         frame->move(240, 260);
         frame->show();
-        if (!QTest::qWaitForWindowActive(frame.get(), patience))
+        if (!waitUntilActive(frame.get()))
             qWarning("the frame does not become active");
         return frame;
     }
@@ -321,7 +321,7 @@ private Q_SLOTS:
         QVERIFY(frame->states.isEmpty());
 
         frame->setWindowState(Qt::WindowNoState);
-        QVERIFY(QTest::qWaitForWindowActive(frame.get(), patience));
+        QVERIFY(waitUntilActive(frame.get()));
         QTRY_COMPARE(onScreen({640, 560}), QColor(69, 69, 69));
         QTRY_COMPARE(frame->geometry(), QRect(240, 260, 800, 600));
         QVERIFY(offersRestore(*frame));

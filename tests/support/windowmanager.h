@@ -5,6 +5,7 @@
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
+#include <QWidget>
 
 inline constexpr int patience = 20000; // milliseconds
 
@@ -16,6 +17,19 @@ inline bool xdotool(const QStringList &arguments)
     process.start("xdotool", arguments);
     return process.waitForFinished(patience) && process.exitStatus() == QProcess::NormalExit
         && process.exitCode() == 0;
+}
+
+/// True when \a window is active, for Qt and for the window manager, which gives it keys.
+inline bool waitUntilActive(QWidget *window)
+{
+    const auto isActiveOnDisplay = [window] {
+        QProcess process;
+        process.start("xdotool", {"getactivewindow"});
+        return process.waitForFinished(patience)
+            && process.readAllStandardOutput().trimmed().toULongLong() == window->winId();
+    };
+    return QTest::qWaitForWindowActive(window, patience)
+        && QTest::qWaitFor(isActiveOnDisplay, patience);
 }
 
 /// A window manager with none of the settings of whoever runs the test.

@@ -12,6 +12,7 @@
 #include <QTabBar>
 
 #include <algorithm>
+#include <array>
 
 namespace orvane
 {
@@ -59,6 +60,17 @@ void restyleEarlyOnes(QWidget *widget)
         each->style()->polish(each);
         QCoreApplication::sendEvent(each, &change);
     }
+}
+
+/// \a sheet as Qt takes it. Controls of one kind mostly have equal sheets: those of late are kept,
+/// so that such controls share one text.
+QString sharedText(const SheetText &sheet)
+{
+    static std::array<QString, 32> lately;
+    QString &text = lately.at(std::size_t(sheet.view().size()) % lately.size());
+    if (!sheet.equals(text))
+        text = sheet.toString();
+    return text;
 }
 
 } // namespace
@@ -110,7 +122,7 @@ void applyStyleSheet(QWidget *widget, const SheetText &sheet)
 {
     // A sheet that is kept for later may differ from the one in force.
     if (!sheet.equals(widget->styleSheet()) || HeldSheets::over(widget))
-        applyStyleSheet(widget, sheet.toString());
+        applyStyleSheet(widget, sharedText(sheet));
 }
 
 HeldSheets::HeldSheets(const QWidget *root)
