@@ -157,12 +157,9 @@ def table_of(kind, runs, steady):
              f"| Control | {unit} | of bare Qt |{heading} of stock Qt | of stock Qt, dark |",
              "|---|---:|---:|---:|---:|" + ("---:|" if steady else "")]
     for name, run in runs.items():
-        bare = f"{run['per_bare']:.2f}" if is_same(run) else "–"
-        mark = " *" if is_painted(run) else ""
-        count = f" {steady[name]:.2f} |" if name in steady and is_same(run) else ""
-        if steady and not count:
-            count = " – |"
-        lines.append(f"| {name} | {run['library']:,.0f} | {bare}{mark} |{count} "
+        mark = " *" if is_painted(run) else "" if is_same(run) else " †"
+        count = f" {steady[name]:.2f}{mark} |" if name in steady else ""
+        lines.append(f"| {name} | {run['library']:,.0f} | {run['per_bare']:.2f}{mark} |{count} "
                      f"{run['per_stock']:.2f} | {run['per_dark']:.2f} |")
     return lines
 
@@ -177,8 +174,10 @@ Machine: {machine}.
 
 - *Bare Qt* is the same tree of Qt's own widgets with the same properties, layouts, items and sheets,
   each set once. Before it is measured it is compared with the control, widget by widget and picture
-  by picture. A dash stands where the tree is not the same, a star where it is, but the control
-  paints something by hand that bare Qt leaves out.
+  by picture. A star stands where the control paints something by hand that bare Qt leaves out, a
+  dagger where the trees are not wholly the same: parts lie elsewhere, most of them hidden ones, or
+  bare Qt has no counterpart, as of the popup of the controller board, the shadow of the message box
+  or the view that a combo box brings along. Targets count without the latter.
 - *Stock Qt* is that tree without any sheet: Qt's own look. It is no dark look; the figure is the
   price of a look by style sheets.
 - *Stock Qt, dark* is that tree under one dark sheet of 100 rules for the whole application,
