@@ -54,7 +54,8 @@ public:
 
     /// Shows \a w, which the strip owns from now on, in place of the content so far, which is
     /// deleted. Content wider than the window brings the right arrow, other content no arrow. The
-    /// width is taken now; content that was never resized gets its size hint first.
+    /// width is taken now; content that was never resized gets its size hint first. Null is
+    /// ignored.
     void addWidget(QWidget *w);
     /// Shows the right arrow alone, or no arrow.
     void setScrollBtnIsVisble(bool b);
@@ -90,7 +91,7 @@ Q_SIGNALS:
     void signal_addRowCabinetsClicked();
 
 public Q_SLOTS:
-    /// Takes note of the scroll range.
+    /// Takes note of the range that the arrows scroll in; the content's scroll bar reports it.
     void on_getScrollerRange(int min, int max);
     /// Scrolls a step to the left and brings the right arrow; the last step hides the left one.
     void on_leftClicked();

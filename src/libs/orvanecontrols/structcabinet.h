@@ -13,6 +13,7 @@
  *
  * The size and the texts have defaults; the numbers have none on purpose, so whoever makes a record
  * fills every one of them. The extra fields are the host's own; the library only carries them.
+ * Weight, power and voltage are in the host's units.
  */
 struct StructCabinet {
     QSize cabinetSize; ///< Width and height of the model in pixels of the wall.

@@ -18,7 +18,8 @@ enum ToolBarPosition : int {
  * A dark tool bar, 40 pixels high, with a group of buttons or widgets at either end.
  *
  * The groups grow towards each other; separators go to the left group only. The bar owns what it is
- * given. It has no signals of its own: connect to the buttons.
+ * given, and ignores null and a position that it does not have. It has no signals of its own:
+ * connect to the buttons.
  */
 class ORVANECONTROLS_EXPORT ToolBarEx : public QFrame
 {

@@ -54,8 +54,9 @@ public:
     ToolButtonEx(QWidget *parent, ButtonType type, QString upText, QString downText);
     ~ToolButtonEx() override;
 
-    /// Builds what a button of \a type consists of and applies its sheet; the type stays. The
-    /// constructor calls it. Labels are built only into a button that has no layout yet.
+    /// Builds what a button of \a type consists of, gives that look its defaults and applies its
+    /// sheet; the type stays. The constructor calls it. Labels are built only into a button that
+    /// has no layout yet.
     void createButtonByType(ButtonType type);
     /// Stores the type. The two command types also get their default colours and their sheet; for
     /// any other, neither children nor sheet change.
@@ -86,17 +87,18 @@ public:
     void setRightLabelStyle();
     /// Stores both picture paths and shows the one of the present state, if there is a left label.
     void setLeftLabelStyle(QString normalPath, QString pressedPath);
-    /// Gives the left label \a sheet as its sheet, if there is one.
+    /// Gives the left label, if there is one, \a sheet as its whole sheet.
     void setLeftLabelImg(QString sheet);
-    /// Shows or hides the smaller text (hidden at first).
+    /// Shows or hides the smaller text of the left-to-right look (hidden at first).
     void setRightBottomLableVisible(bool visible);
     /// The label of the left-to-right look's picture, null on other looks.
     QLabel *pLabelLeft() const;
-    /// Puts \a label in the place of pLabelLeft(); no layout changes.
+    /// Puts \a label in the place of pLabelLeft(): the setters then reach that one. Neither label
+    /// changes its parent or its place, and null is taken.
     void setPLabelLeft(QLabel *label);
     /// The label of the left-to-right look's text, null on other looks.
     LabelEx *pLabelRight() const;
-    /// Puts \a label in the place of pLabelRight(); no layout changes.
+    /// Puts \a label in the place of pLabelRight(), as setPLabelLeft() does.
     void setPLabelRight(LabelEx *label);
 
     /// What a release does on a cabinet kind, for the host to call. While the button is pressed:
@@ -183,35 +185,35 @@ public:
     int leftToRightLayoutSpace() const;
 
     // Activated look: a command.
-    /// Sets the background.
+    /// Sets the background (default 66,145,240).
     void setActivatedNormalBgColor(const QColor &color);
     /// The background.
     QColor activatedNormalBgColor() const;
-    /// Sets the background under the pointer.
+    /// Sets the background under the pointer (default 72,109,154).
     void setActivatedHoverBgColor(const QColor &color);
     /// The background under the pointer.
     QColor activatedHoverBgColor() const;
-    /// Sets the background while pressed.
+    /// Sets the background while pressed (default 42,77,120).
     void setActivatedPressedBgColor(const QColor &color);
     /// The background while pressed.
     QColor activatedPressedBgColor() const;
-    /// Sets the background while disabled.
+    /// Sets the background while disabled (default 85,85,85).
     void setActivatedDisabledBgColor(const QColor &color);
     /// The background while disabled.
     QColor activatedDisabledBgColor() const;
-    /// Sets the text colour.
+    /// Sets the text colour (default 210,210,210).
     void setActivatedNormalFontColor(const QColor &color);
     /// The text colour.
     QColor activatedNormalFontColor() const;
-    /// Sets the text colour under the pointer.
+    /// Sets the text colour under the pointer (default 210,210,210).
     void setActivatedHoverFontColor(const QColor &color);
     /// The text colour under the pointer.
     QColor activatedHoverFontColor() const;
-    /// Sets the text colour while pressed.
+    /// Sets the text colour while pressed (default 210,210,210).
     void setActivatedPressedFontColor(const QColor &color);
     /// The text colour while pressed.
     QColor activatedPressedFontColor() const;
-    /// Sets the text colour while disabled.
+    /// Sets the text colour while disabled (default 130,130,130).
     void setActivatedDisabledFontColor(const QColor &color);
     /// The text colour while disabled.
     QColor activatedDisabledFontColor() const;
@@ -221,35 +223,35 @@ public:
     int activatedBorderRadius() const;
 
     // Not-activated look: a command.
-    /// Sets the background.
+    /// Sets the background (default 99,99,99).
     void setNoActivatedNormalBgColor(const QColor &color);
     /// The background.
     QColor noActivatedNormalBgColor() const;
-    /// Sets the background under the pointer.
+    /// Sets the background under the pointer (default 87,90,92).
     void setNoActivatedHoverBgColor(const QColor &color);
     /// The background under the pointer.
     QColor noActivatedHoverBgColor() const;
-    /// Sets the background while pressed.
+    /// Sets the background while pressed (default 53,54,55).
     void setNoActivatedPressedBgColor(const QColor &color);
     /// The background while pressed.
     QColor noActivatedPressedBgColor() const;
-    /// Sets the background while disabled.
+    /// Sets the background while disabled (default 85,85,85).
     void setNoActivatedDisabledBgColor(const QColor &color);
     /// The background while disabled.
     QColor noActivatedDisabledBgColor() const;
-    /// Sets the text colour.
+    /// Sets the text colour (default 210,210,210).
     void setNoActivatedNormalFontColor(const QColor &color);
     /// The text colour.
     QColor noActivatedNormalFontColor() const;
-    /// Sets the text colour under the pointer.
+    /// Sets the text colour under the pointer (default 210,210,210).
     void setNoActivatedHoverFontColor(const QColor &color);
     /// The text colour under the pointer.
     QColor noActivatedHoverFontColor() const;
-    /// Sets the text colour while pressed.
+    /// Sets the text colour while pressed (default 210,210,210).
     void setNoActivatedPressedFontColor(const QColor &color);
     /// The text colour while pressed.
     QColor noActivatedPressedFontColor() const;
-    /// Sets the text colour while disabled.
+    /// Sets the text colour while disabled (default 130,130,130).
     void setNoActivatedDisabledFontColor(const QColor &color);
     /// The text colour while disabled.
     QColor noActivatedDisabledFontColor() const;
@@ -401,9 +403,9 @@ protected:
     /// added: from the press on a cabinet kind, and from the top left corner on any other. Returns
     /// when the drag has ended.
     void mouseMoveEvent(QMouseEvent *event) override;
-    /// Shows the hovered look, and the host's cursor if that is switched on.
+    /// Shows the hovered look, and the library's own cursor if setIsChangeMouseStyle() is on.
     void enterEvent(QEvent *event) override;
-    /// Shows the normal look, and the arrow cursor.
+    /// Shows the normal look, and the arrow cursor if setIsChangeMouseStyle() is on.
     void leaveEvent(QEvent *event) override;
 
 private:
