@@ -184,9 +184,9 @@ Machine: {machine}.
   `benchmarks/dark.qss`.
 
 All are measured in one run, in turns so that each comes as often after each other, and after one of
-its kind that does not count. A ratio is the median of the rounds' ratios, a time is the median of processor times. Below 1 the library is the
-cheaper one. What can be seen is not the same on all sides but the first, so the tables compare
-costs, not looks.
+its kind that does not count. A ratio is the median of the rounds' ratios, a time is the median of
+processor times. Below 1 the library is the cheaper one. What can be seen is not the same on all
+sides but the first, so the tables compare costs, not looks.
 
 ## Targets
 
@@ -205,9 +205,9 @@ What the time goes to, by profiles of instructions (`./dev bench --instructions`
   hundreds of Qt's functions. A control has a class, members, texts and code of its own: Qt takes one
   step more wherever it asks class by class (selectors, properties, accessible interfaces), and the
   processor's caches hold less of the rest. callgrind's simulation of them, with 10 to 15 cycles for
-  a miss or a wrong branch, makes `SliderEx`, `SpinBoxEx` and `LineEditEx` 1.03 of bare Qt, `ToolBarEx`
-  1.04, `WindowTitle` and the tab bars 1.00 to 1.01. The rest comes and goes: a ratio moves by two or
-  three per cent from run to run.
+  a miss or a wrong branch, makes `SliderEx`, `SpinBoxEx` and `LineEditEx` 1.03 of bare Qt,
+  `ToolBarEx` 1.04, `WindowTitle` and the tab bars 1.00 to 1.01. The rest comes and goes: a ratio
+  moves by two or three per cent from run to run.
 - *Painting a cabinet*: what has been painted is copied to cabinets that look the same. The bare
   button takes 74 % of the instructions of a copied cabinet. The first one of each look is
   painted, which costs four bare buttons.
