@@ -656,6 +656,7 @@ private Q_SLOTS:
         button.createButtonByType(ImageAboveCaption);
         QCOMPARE(button.styleSheet(), captioned);
         QCOMPARE(button.downLabelTextColor(), QColor(211, 211, 211));
+        QCOMPARE(caption(button)->styleSheet(), enabledCaption);
         QCOMPARE(labels(button).size(), 2);
 
         button.createButtonByType(ImageBesideImage);

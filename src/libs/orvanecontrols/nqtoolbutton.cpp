@@ -47,6 +47,8 @@ void NQToolButton::createButtonByType(ToolButtonType type)
         setTopToBottomStyle();
         if (!layout())
             createTopToBottomLabels();
+        else
+            setDownLabelStyle();
         break;
     case ImageBesideImage:
         initLeftToRightParam();
