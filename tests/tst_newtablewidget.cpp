@@ -245,6 +245,45 @@ private Q_SLOTS:
         QCOMPARE(table.currentColumn(), 1);
     }
 
+    void tabKeyGoesFromTheCellsToTheBoxes()
+    {
+        QWidget window;
+        NewTableWidget table(&window);
+        fill(table, 3, 2);
+        table.setAddCheckBoxVisible(true);
+        const QPushButton behind(&window);
+        QVERIFY(pointer::showAndWait(&window));
+        QApplication::setActiveWindow(&window);
+        table.setFocusPolicy(Qt::StrongFocus); // the host's choice
+        table.setCurrentCell(0, 1);
+        table.setFocus();
+        QVERIFY(table.hasFocus());
+        QTest::keyClick(&table, Qt::Key_Tab);
+        QVERIFY(table.hasFocus());
+        QCOMPARE(table.currentColumn(), 2);
+        QTest::keyClick(&table, Qt::Key_Tab);
+        QVERIFY(rowBox(table, 1)->hasFocus());
+        QTest::keyClick(rowBox(table, 1), Qt::Key_Tab);
+        QVERIFY(rowBox(table, 2)->hasFocus());
+        QTest::keyClick(rowBox(table, 2), Qt::Key_Tab);
+        QVERIFY(behind.hasFocus());
+    }
+
+    void theFirstBoxGetsTheFocusOfATableWithoutACurrentCell()
+    {
+        NewTableWidget table;
+        fill(table, 3, 2);
+        table.setAddCheckBoxVisible(true);
+        QVERIFY(pointer::showAndWait(&table));
+        QApplication::setActiveWindow(&table);
+        table.setFocus();
+        QVERIFY(rowBox(table, 0)->hasFocus());
+        table.setCurrentCell(0, 1); // leaves it there, so that the tab key goes to the next box
+        QVERIFY(rowBox(table, 0)->hasFocus());
+        QTest::keyClick(rowBox(table, 0), Qt::Key_Tab);
+        QVERIFY(rowBox(table, 1)->hasFocus());
+    }
+
     void theCheckBoxColumnComesFirst()
     {
         NewTableWidget table;
