@@ -39,7 +39,7 @@ public:
     /// column is inserted, so remove the empty one first.
     void setAddCheckBoxVisible(bool isVisible);
     /// Inserts a column of 30 pixels at the left, with a check box for every row, and makes the
-    /// header box, in place of one that there is.
+    /// header box, in place of one that there is. In the tab order they follow the table.
     void createCheckBoxColumn();
 
 public Q_SLOTS:
