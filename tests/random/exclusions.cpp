@@ -31,6 +31,7 @@ const QVector<Exclusion> &members()
         {"QTableWidget", "removeRow", "Qt overflows at the end of int; a table calls it with few"},
         {"QTableWidget", "removeColumn", "Qt overflows as for rows; a table calls it with few"},
         {"QListView", "batchSize", "a warning of Qt's for what is not positive"},
+        {"Drawer", "setPVBoxlayout", "Qt's layouts in no widget keep deleted ones; it gets others"},
         {"QTreeWidget", "columnCount", "Qt keeps every section; the tree has the one it needs"},
         {"QTabBar", "currentIndex", "the tables call the class's own setCurrentIndex()"},
     };

@@ -3,6 +3,8 @@
 #include "customlistwidgetmulitem.h"
 #include "toolbuttonex.h"
 
+#include <QVBoxLayout>
+
 namespace randomuse
 {
 
@@ -14,6 +16,12 @@ template <> QWidget *newObject(Life &life)
 template <> QObject *newObject(Life &life)
 {
     return life.keep(new QObject);
+}
+
+/// In a widget: a layout without one goes on pointing to widgets that are deleted.
+template <> QVBoxLayout *newObject(Life &life)
+{
+    return life.keep(new QVBoxLayout(life.keep(new QWidget(life.parentOrNone()))));
 }
 
 template <> ToolButtonEx *newObject(Life &life)

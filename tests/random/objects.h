@@ -6,6 +6,7 @@
 #include <cstring>
 
 class CustomListWidgetMulItem;
+class QVBoxLayout;
 class ToolButtonEx;
 
 /// Objects that the library's functions take.
@@ -19,6 +20,7 @@ template <class T> T *newObject(Life &life)
 }
 template <> QWidget *newObject(Life &life);
 template <> QObject *newObject(Life &life);
+template <> QVBoxLayout *newObject(Life &life);
 template <> ToolButtonEx *newObject(Life &life);
 template <> CustomListWidgetMulItem *newObject(Life &life);
 

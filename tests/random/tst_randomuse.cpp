@@ -43,6 +43,19 @@ bool isHuge(const QWidget *window)
         || window->height() > mostWidth;
 }
 
+/// Keeps what is huge from being painted: Qt's painter overflows there, and takes long before.
+class PaintGuard : public QObject
+{
+public:
+    bool eventFilter(QObject *object, QEvent *event) override
+    {
+        if (event->type() != QEvent::Paint || !object->isWidgetType())
+            return QObject::eventFilter(object, event);
+        const auto *widget = static_cast<const QWidget *>(object);
+        return isHuge(widget) || isHuge(widget->window());
+    }
+};
+
 bool isHugeWindowShown()
 {
     const QWidgetList windows = QApplication::topLevelWidgets();
@@ -332,6 +345,8 @@ int main(int argc, char **argv)
         QTextStream(stderr) << "tst_randomuse: there is no class " << options.className << '\n';
         return 2;
     }
+    PaintGuard guard;
+    application.installEventFilter(&guard);
     protocol::install();
     qInstallMessageHandler(takeMessage);
     for (const Entry &entry : chosen) {

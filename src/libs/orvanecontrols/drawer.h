@@ -60,8 +60,10 @@ public:
 
     /// The layout that new items are added to. \see setPVBoxlayout()
     QVBoxLayout *pVBoxlayout() const;
-    /// Puts \a layout in the place of pVBoxlayout(); it is not installed. Without a layout new
-    /// items keep their parent. The drawer deletes the layout that it has when it is destroyed.
+    /// Puts \a layout in the place of pVBoxlayout(); it is not installed. It should stand in a
+    /// widget: like any layout of Qt's, one that stands in none is not told when its items are
+    /// deleted. Without a layout new items keep their parent. The drawer deletes the layout that it
+    /// has when it is destroyed.
     void setPVBoxlayout(QVBoxLayout *layout);
 
 Q_SIGNALS:
