@@ -250,6 +250,14 @@ void list(const QVector<Entry> &entries)
         out << exclusion.className << '\n';
 }
 
+/// A line for each thing that is left out: class, function and reason.
+void listExclusions()
+{
+    QTextStream out(stdout);
+    for (const Exclusion &exclusion : allExclusions())
+        out << exclusion.className << ' ' << exclusion.member << ": " << exclusion.reason << '\n';
+}
+
 Options readOptions(QCommandLineParser &parser)
 {
     Options options;
@@ -288,6 +296,7 @@ int main(int argc, char **argv)
         {"life", "Live this life of the class alone.", "number"},
         {"replay", "Print each step when it begins."},
         {"list", "Print what is called, and take no steps."},
+        {"excluded", "Print what is left out and why, and take no steps."},
         {"fault", "What the class Faulty does at last: warn, abort, crash, grow, hang.", "name"},
         {"patience", "After how many seconds a step counts as hanging.", "number"},
     });
@@ -295,6 +304,10 @@ int main(int argc, char **argv)
     const QVector<Entry> entries = allEntries();
     if (parser.isSet("list")) {
         list(entries);
+        return 0;
+    }
+    if (parser.isSet("excluded")) {
+        listExclusions();
         return 0;
     }
     const Options options = readOptions(parser);

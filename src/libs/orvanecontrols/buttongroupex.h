@@ -43,7 +43,8 @@ public:
     explicit ButtonGroupEx(QWidget *parent = nullptr);
     ~ButtonGroupEx() override;
 
-    /// Creates the arrows and their placeholders. The constructor calls it.
+    /// Creates the arrows and their placeholders. The constructor calls it; another call of it, or
+    /// of the two functions below, lays new buttons over those that are there.
     void createScrollBtn();
     /// Creates the button that adds cabinets. The constructor calls it.
     void createAddCabnicateBtn();
@@ -54,7 +55,8 @@ public:
 
     /// Shows \a w, which the strip owns from now on, in place of the content so far, which is
     /// deleted. Content wider than the window brings the right arrow, other content no arrow. The
-    /// width is taken now; content that was never resized gets its size hint first.
+    /// width is taken now; content that was never resized gets its size hint first. A null pointer
+    /// is ignored.
     void addWidget(QWidget *w);
     /// Shows the right arrow alone, or no arrow.
     void setScrollBtnIsVisble(bool b);
@@ -71,9 +73,10 @@ public:
     /// Enables or disables the buttons, the title, the arrows and the content, if there is any.
     void setFrameIsEnabled(bool b);
 
-    /// The width of the window that the content is seen through.
+    /// The width in pixels of the window that the content is seen through.
     int getScrollAreaWidth();
-    /// Whether the content was wider, when it was added, than the window is now.
+    /// Whether the content was wider, when it was added, than the window is now; false without
+    /// content.
     bool isWidthBigThanScrollWidth();
 
 Q_SIGNALS:
@@ -90,7 +93,7 @@ Q_SIGNALS:
     void signal_addRowCabinetsClicked();
 
 public Q_SLOTS:
-    /// Takes note of the scroll range.
+    /// Takes note of the scroll range in pixels; the scroll bar calls it.
     void on_getScrollerRange(int min, int max);
     /// Scrolls a step to the left and brings the right arrow; the last step hides the left one.
     void on_leftClicked();

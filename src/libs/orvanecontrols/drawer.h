@@ -31,7 +31,8 @@ public:
     ~Drawer() override;
 
     /// Adds \a item, which the drawer owns from now on, below the others. A null pointer is
-    /// ignored.
+    /// ignored. Add an item once: it stands in the list, and answers a click, as often as it is
+    /// added.
     void addDrawerItem(DrawerItem *item);
     /// Removes the item at \a index and schedules its deletion. An index outside the list is
     /// ignored.
@@ -55,10 +56,11 @@ public:
 
     /// The items from top to bottom, without deleted ones. \see setDrawerItemList()
     QList<DrawerItem *> drawerItemList() const;
-    /// Replaces the list of items; no layout and no connection changes. \see drawerItemList()
+    /// Replaces the list of items, without null pointers; no layout, no connection and no owner
+    /// changes. \see drawerItemList()
     void setDrawerItemList(const QList<DrawerItem *> &items);
 
-    /// The layout that new items are added to. \see setPVBoxlayout()
+    /// The layout that new items are added to, null if there is none. \see setPVBoxlayout()
     QVBoxLayout *pVBoxlayout() const;
     /// Puts \a layout in the place of pVBoxlayout(); it is not installed. Without a layout new
     /// items keep their parent. The drawer deletes the layout that it has when it is destroyed.

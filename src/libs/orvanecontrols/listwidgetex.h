@@ -34,7 +34,7 @@ public:
     void deleteItem(int index);
     /// Removes all rows.
     void clearAllItems();
-    /// The row that \a item is in, -1 if it is in none.
+    /// The row that \a item is in, -1 if it is in none or null.
     int getItemIndex(CustomListWidgetItem *item) const;
 
     /// Sets the background (default 245,245,245). \see bgNormalColor()

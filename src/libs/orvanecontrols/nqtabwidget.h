@@ -56,7 +56,8 @@ public:
 
     /// Sets how wide the tabs are, see NQTabBar::setTabBarType(). \see getTabBarType()
     void setTabBarType(TabBarRd::TabBarType type);
-    /// Sets the minimum width of the bar in pixels. \see getTabMinWidth()
+    /// Sets the minimum width of the bar in pixels; a negative one counts as 0.
+    /// \see getTabMinWidth()
     void setTabMinWidth(int width);
     /// Sets the maximum width of the bar in pixels; a negative one is ignored. The next resize sets
     /// it to the width of the widget. \see getTabMaxWidth()
@@ -131,9 +132,10 @@ public:
     QString fromColorToStr(QColor color);
 
 public Q_SLOTS:
-    /// Shows the page at \a index; the bar stays as it is.
+    /// Shows the page at \a index; the bar stays as it is. An index without a page is ignored.
     void slot_currentShow(int index);
-    /// Removes the tab at \a index and its page, unless it is the last one.
+    /// Removes the tab at \a index and its page, unless it is the last one. An index without a tab
+    /// is ignored.
     void slot_tabCloseRequested(int index);
 
 protected:

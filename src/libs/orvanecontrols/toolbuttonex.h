@@ -50,12 +50,13 @@ class ORVANECONTROLS_EXPORT ToolButtonEx : public QToolButton
 
 public:
     /// Builds a button of \a type, owned by \a parent. The texts are those of the top-to-bottom
-    /// look.
+    /// look. Any other type is kept and looks as DefaultType.
     ToolButtonEx(QWidget *parent, ButtonType type, QString upText, QString downText);
     ~ToolButtonEx() override;
 
     /// Builds what a button of \a type consists of and applies its sheet; the type stays. The
-    /// constructor calls it. Labels are built only into a button that has no layout yet.
+    /// constructor calls it. Labels are built only into a button that has no layout yet. Any other
+    /// type does nothing.
     void createButtonByType(ButtonType type);
     /// Stores the type. The two command types also get their default colours and their sheet; for
     /// any other, neither children nor sheet change.
@@ -85,18 +86,19 @@ public:
     /// Applies the right label's sheet: pressed colour while the button is pressed, else normal.
     void setRightLabelStyle();
     /// Stores both picture paths and shows the one of the present state, if there is a left label.
+    /// A path without a picture shows none.
     void setLeftLabelStyle(QString normalPath, QString pressedPath);
     /// Gives the left label \a sheet as its sheet, if there is one.
     void setLeftLabelImg(QString sheet);
     /// Shows or hides the smaller text (hidden at first).
     void setRightBottomLableVisible(bool visible);
-    /// The label of the left-to-right look's picture, null on other looks.
+    /// The label of the left-to-right look's picture, null on other looks and once it is deleted.
     QLabel *pLabelLeft() const;
-    /// Puts \a label in the place of pLabelLeft(); no layout changes.
+    /// Puts \a label, null for none, in the place of pLabelLeft(); no layout and no owner changes.
     void setPLabelLeft(QLabel *label);
-    /// The label of the left-to-right look's text, null on other looks.
+    /// The label of the left-to-right look's text, null on other looks and once it is deleted.
     LabelEx *pLabelRight() const;
-    /// Puts \a label in the place of pLabelRight(); no layout changes.
+    /// Puts \a label, null for none, in the place of pLabelRight(); no layout and no owner changes.
     void setPLabelRight(LabelEx *label);
 
     /// What a release does on a cabinet kind, for the host to call. While the button is pressed:
@@ -177,41 +179,42 @@ public:
     void setLeftToRightBorderRadius(int radius);
     /// The radius of the corners.
     int leftToRightBorderRadius() const;
-    /// Sets the gap between picture and texts in pixels (default 5).
+    /// Sets the gap between picture and texts in pixels (default 5); a negative one stands for the
+    /// style's.
     void setLeftToRightLayoutSpace(const int &space);
     /// The gap between picture and texts.
     int leftToRightLayoutSpace() const;
 
     // Activated look: a command.
-    /// Sets the background.
+    /// Sets the background (default 66,145,240).
     void setActivatedNormalBgColor(const QColor &color);
     /// The background.
     QColor activatedNormalBgColor() const;
-    /// Sets the background under the pointer.
+    /// Sets the background under the pointer (default 72,109,154).
     void setActivatedHoverBgColor(const QColor &color);
     /// The background under the pointer.
     QColor activatedHoverBgColor() const;
-    /// Sets the background while pressed.
+    /// Sets the background while pressed (default 42,77,120).
     void setActivatedPressedBgColor(const QColor &color);
     /// The background while pressed.
     QColor activatedPressedBgColor() const;
-    /// Sets the background while disabled.
+    /// Sets the background while disabled (default 85,85,85).
     void setActivatedDisabledBgColor(const QColor &color);
     /// The background while disabled.
     QColor activatedDisabledBgColor() const;
-    /// Sets the text colour.
+    /// Sets the text colour (default 210,210,210).
     void setActivatedNormalFontColor(const QColor &color);
     /// The text colour.
     QColor activatedNormalFontColor() const;
-    /// Sets the text colour under the pointer.
+    /// Sets the text colour under the pointer (default 210,210,210).
     void setActivatedHoverFontColor(const QColor &color);
     /// The text colour under the pointer.
     QColor activatedHoverFontColor() const;
-    /// Sets the text colour while pressed.
+    /// Sets the text colour while pressed (default 210,210,210).
     void setActivatedPressedFontColor(const QColor &color);
     /// The text colour while pressed.
     QColor activatedPressedFontColor() const;
-    /// Sets the text colour while disabled.
+    /// Sets the text colour while disabled (default 130,130,130).
     void setActivatedDisabledFontColor(const QColor &color);
     /// The text colour while disabled.
     QColor activatedDisabledFontColor() const;
@@ -221,35 +224,35 @@ public:
     int activatedBorderRadius() const;
 
     // Not-activated look: a command.
-    /// Sets the background.
+    /// Sets the background (default 99,99,99).
     void setNoActivatedNormalBgColor(const QColor &color);
     /// The background.
     QColor noActivatedNormalBgColor() const;
-    /// Sets the background under the pointer.
+    /// Sets the background under the pointer (default 87,90,92).
     void setNoActivatedHoverBgColor(const QColor &color);
     /// The background under the pointer.
     QColor noActivatedHoverBgColor() const;
-    /// Sets the background while pressed.
+    /// Sets the background while pressed (default 53,54,55).
     void setNoActivatedPressedBgColor(const QColor &color);
     /// The background while pressed.
     QColor noActivatedPressedBgColor() const;
-    /// Sets the background while disabled.
+    /// Sets the background while disabled (default 85,85,85).
     void setNoActivatedDisabledBgColor(const QColor &color);
     /// The background while disabled.
     QColor noActivatedDisabledBgColor() const;
-    /// Sets the text colour.
+    /// Sets the text colour (default 210,210,210).
     void setNoActivatedNormalFontColor(const QColor &color);
     /// The text colour.
     QColor noActivatedNormalFontColor() const;
-    /// Sets the text colour under the pointer.
+    /// Sets the text colour under the pointer (default 210,210,210).
     void setNoActivatedHoverFontColor(const QColor &color);
     /// The text colour under the pointer.
     QColor noActivatedHoverFontColor() const;
-    /// Sets the text colour while pressed.
+    /// Sets the text colour while pressed (default 210,210,210).
     void setNoActivatedPressedFontColor(const QColor &color);
     /// The text colour while pressed.
     QColor noActivatedPressedFontColor() const;
-    /// Sets the text colour while disabled.
+    /// Sets the text colour while disabled (default 130,130,130).
     void setNoActivatedDisabledFontColor(const QColor &color);
     /// The text colour while disabled.
     QColor noActivatedDisabledFontColor() const;
@@ -264,23 +267,25 @@ public:
     int getNoActivatedLeftPadding() const;
 
     // Cabinet kinds.
-    /// Sets the model's width; a value outside 1 to 65536 becomes the nearest of them.
+    /// Sets the model's width in pixels of the wall; a value outside 1 to 65536 becomes the nearest
+    /// of them.
     void setCabinetWidth(int width);
     /// The model's width, 0 until set.
     int cabinetWidth() const;
-    /// Sets the model's height; a value outside 1 to 65536 becomes the nearest of them.
+    /// Sets the model's height in pixels of the wall; a value outside 1 to 65536 becomes the
+    /// nearest of them.
     void setCabinetHeight(int height);
     /// The model's height, 0 until set.
     int cabinetHeight() const;
-    /// Sets width and height; on a CabinetModelType button also the tool tip, to the cabinet name,
-    /// "_" and the size as given.
+    /// Sets width and height as the two functions above do; on a CabinetModelType button also the
+    /// tool tip, to the cabinet name, "_" and the size as given.
     void setCabinetSize(int width, int height);
     /// Sets the count on hand, unless \a count is negative, and enables the button exactly when the
     /// count is above 0.
     void setCabinetCount(int count);
     /// The count on hand.
     int cabinetCount() const;
-    /// Sets the count that the host began with (-1 until set).
+    /// Keeps the count, any number, that the host began with (-1 until set).
     void setCabinetInitCount(int count);
     /// The count that the host began with (-1 until set).
     int getCabinetInitCount() const;
@@ -301,27 +306,27 @@ public:
     QString getCabinetName() const;
     /// The cabinet's name.
     QString cabinetName() const;
-    /// Sets the drawing width in the host's layout view (default 50).
+    /// Sets the drawing width in the host's layout view in pixels (default 50).
     void setCabinetuisize(int size);
     /// The drawing width in the host's layout view (default 50).
     int getCabinetuisize() const;
-    /// Sets the drawing height in the host's layout view (default 50).
+    /// Sets the drawing height in the host's layout view in pixels (default 50).
     void setCabinetuiHsize(int size);
     /// The drawing height in the host's layout view (default 50).
     int getCabinetuiHsize() const;
-    /// Sets the weight (default 5).
+    /// Sets the weight in the host's unit (default 5); any number is kept.
     void setCabinetweight(int weight);
     /// The weight (default 5).
     int getCabinetweight() const;
-    /// Sets the power (default 0.01).
+    /// Sets the power in the host's unit (default 0.01); any number is kept.
     void setCabinetpower(float power);
     /// The power (default 0.01).
     float getCabinetpower() const;
-    /// Sets the voltage (default 0.01).
+    /// Sets the voltage in the host's unit (default 0.01); any number is kept.
     void setCabinetVoltage(float voltage);
     /// The voltage (default 0.01).
     float getCabinetVoltage() const;
-    /// Sets the pixel pitch (default 1).
+    /// Sets the pixel pitch in the host's unit (default 1); any number is kept.
     void setCabinetPointspace(int pointSpace);
     /// The pixel pitch (default 1).
     int getCabinetPointspace() const;

@@ -22,9 +22,9 @@ public:
     /// Builds an empty tree without a header, owned by \a parent.
     explicit TreeViewEx(QWidget *parent = nullptr);
 
-    /// Adds a row for the model \a name of \a size at the end of \a parentItem. The row has the
-    /// check state \a state and carries \a object, which stays the host's. Its TreeItem is the
-    /// itemWidget() of column 0.
+    /// Adds a row for the model \a name of \a size in pixels of the wall at the end of
+    /// \a parentItem. The row has the check state \a state and carries \a object, which stays the
+    /// host's and may be null. Its TreeItem is the itemWidget() of column 0.
     ///
     /// A null pointer and an item of another tree add nothing. An item that is in no tree has to
     /// be put into this one next; the tree would not hear of its deletion.

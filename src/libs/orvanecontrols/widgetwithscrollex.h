@@ -37,7 +37,8 @@ public:
     explicit WidgetWithScrollEx(QWidget *parent = nullptr);
     ~WidgetWithScrollEx() override;
 
-    /// Creates the arrows and their placeholders. The constructor calls it.
+    /// Creates the arrows and their placeholders. The constructor calls it; another call lays new
+    /// ones over them.
     void createScrollButton();
     /// Follows the scroll range, takes over the scroll position, sets the step to 74 and hides both
     /// arrows. The constructor calls it.
@@ -47,7 +48,7 @@ public:
 
     /// Shows \a w, which the strip owns from now on, in place of the content so far, which is
     /// deleted. Content wider than the window brings the right arrow; otherwise the arrows stay as
-    /// they are. The width is taken now, so size \a w first.
+    /// they are. The width is taken now, so size \a w first. A null pointer is ignored.
     void addWidget(QWidget *w);
     /// Deletes the content, if there is any. The arrows stay as they are.
     void removeWidget();
@@ -57,14 +58,14 @@ public:
     /// Shows the right arrow, or its placeholder.
     void setRightButtonVisible(bool b);
 
-    /// Sets by how many pixels a click on an arrow scrolls (default 74).
-    /// \see scrollSingleStepValue()
+    /// Sets by how many pixels a click on an arrow scrolls (default 74). A negative step scrolls
+    /// the other way. \see scrollSingleStepValue()
     void setScrollSingleStepValue(int value);
     /// By how many pixels a click on an arrow scrolls. \see setScrollSingleStepValue()
     int scrollSingleStepValue() const;
 
 public Q_SLOTS:
-    /// Takes note of the scroll range.
+    /// Takes note of the scroll range in pixels; the scroll bar calls it.
     void on_rangChanged(int min, int max);
     /// Scrolls a step to the left and brings the right arrow; the last step hides the left one.
     void on_leftClicked();

@@ -49,7 +49,8 @@ public:
 
     /// Gives the logo picture the fixed size \a size in pixels, 23 by 18 at first.
     void SetLogoImageSize(const QSize &size);
-    /// Shows the picture of \a path, a file or a resource, stretched over the logo picture's size.
+    /// Shows the picture of \a path, a file or a resource, stretched over the logo picture's size;
+    /// none if there is no such picture.
     void SetLogoImagePath(const QString &path);
     /// Gives the logo text the fixed size \a size in pixels, 100 by 18 at first.
     void SetLogoTextSize(const QSize &size);
