@@ -23,7 +23,7 @@ class ButtonGroupEx;
  * Before the row stand a button that adds cabinets and one that adds a row of cabinets, below it
  * the title. The arrows show only when the row is wider than its window; an empty label keeps the
  * place of a hidden arrow. Like WidgetWithScrollEx, the strip scrolls on from its own record of the
- * position.
+ * position. It may be deleted in its own signals.
  *
  * The arrows and the add-row button have no pictures of their own. A host gives them some in its
  * application's style sheet, by the properties that they carry:

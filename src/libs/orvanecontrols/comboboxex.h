@@ -158,7 +158,8 @@ public:
     QString fromColorToStr(QColor color);
 
 Q_SIGNALS:
-    /// In image mode: row \a index was chosen by the user or set by setCurrentIndex().
+    /// In image mode: row \a index was chosen by the user or set by setCurrentIndex(). The box may
+    /// be deleted here.
     void signal_clickedItem(int index);
 
 protected:

@@ -44,14 +44,14 @@ public:
     void clearDrawerItems();
 
     /// Expands \a item, or collapses it if it is expanded, and collapses all others. For an item
-    /// that is not in the list it only collapses the others.
+    /// that is not in the list, or null, it only collapses the others.
     void setDrawerItemContentShow(DrawerItem *item);
     /// Expands and selects the item at \a index, and collapses and deselects all others. With an
     /// index outside the list no item is selected. \see getSelectItem()
     void setSelectItemByIndex(int index);
     /// The index of the selected item, -1 if there is none. \see setSelectItemByIndex()
     int getSelectItem();
-    /// The index of \a item, -1 if it is not in the list.
+    /// The index of \a item, -1 if it is null or not in the list.
     int getItemIndexByDrawerItem(DrawerItem *item);
 
     /// The items from top to bottom, without deleted ones. \see setDrawerItemList()
@@ -62,8 +62,9 @@ public:
 
     /// The layout that new items are added to, null if there is none. \see setPVBoxlayout()
     QVBoxLayout *pVBoxlayout() const;
-    /// Puts \a layout in the place of pVBoxlayout(); it is not installed. Without a layout new
-    /// items keep their parent. The drawer deletes the layout that it has when it is destroyed.
+    /// Puts \a layout, null for none, in the place of pVBoxlayout(); it is not installed. Without a
+    /// layout new items keep their parent. The drawer deletes the layout that it has when it is
+    /// destroyed.
     void setPVBoxlayout(QVBoxLayout *layout);
 
 Q_SIGNALS:
@@ -72,8 +73,8 @@ Q_SIGNALS:
     void signal_notifyItem(DrawerItem *item);
 
 public Q_SLOTS:
-    /// What a click on the header of \a item does: setDrawerItemContentShow() and
-    /// signal_notifyItem().
+    /// What a click on the header of \a item does: setDrawerItemContentShow() and, if the item
+    /// still exists, signal_notifyItem(). A null pointer is handed on.
     void on_notifyIsShrink(DrawerItem *item);
 
 private:

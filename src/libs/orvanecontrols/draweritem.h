@@ -48,7 +48,7 @@ public:
     QWidget *getItem();
     /// Deletes the body at once, if there is one.
     void removeItem();
-    /// Fixes the height of the scroll area in pixels.
+    /// Fixes the height of the scroll area in pixels; a negative one counts as 0.
     void setScrollAreaHeight(int height);
     /// Adds \a w, which the item owns from now on, hidden below the scroll area, to be shown in its
     /// place. It takes effect together with setBVisibleScrolArea(false). An earlier content widget
@@ -157,7 +157,7 @@ Q_SIGNALS:
     void signal_ItemContentPortItemPressed(DrawerItem *item, RowLineItem *rowItem);
     /// The button of \a portItem in the body of \a item went down.
     void signal_offlineItemContentPortItemPressed(DrawerItem *item, OfflinePortItemFrame *portItem);
-    /// The body of \a item reported a change with \a index.
+    /// The body of \a item, connected by the host, reported a change with \a index, any number.
     void signal_drawItemContentStateChandged(DrawerItem *item, int index);
     /// The check-all box was checked or unchecked, by a click or by setCheckAllIsCheck().
     void signal_checkAllItemContent(DrawerItem *item, bool isCheckAll);

@@ -42,7 +42,7 @@ public:
 
     /// A counter, 0 at first, to which every new row adds 1. \see setIndex()
     int index() const;
-    /// Sets the counter. \see index()
+    /// Sets the counter to any number. \see index()
     void setIndex(int index);
 
     /// Does nothing; the body has no tool tip of its own.

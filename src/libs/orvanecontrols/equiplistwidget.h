@@ -83,9 +83,9 @@ public Q_SLOTS:
     void slot_ShowRefAnimation();
     /// Uncovers the list; does nothing when the animation is not running.
     void slot_StopRefAnimation();
-    /// Emits signal_itemDoubleClicked().
+    /// Emits signal_itemDoubleClicked() with \a item, null too.
     void slot_deviceItemDoubleClicked(CustomListWidgetMulItem *item);
-    /// Emits signal_everySetting().
+    /// Emits signal_everySetting() with \a item, null too.
     void slot_emitSettingData(CustomListWidgetMulItem *item);
 
 protected:

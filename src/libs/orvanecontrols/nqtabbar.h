@@ -48,7 +48,7 @@ public:
     /// The bar itself, which the row owns.
     TabBarRd *getTabBar() const;
 
-    /// Gives the row a fixed size in pixels.
+    /// Gives the row a fixed size in pixels; a negative one counts as 0.
     void setWidgetFixedSize(int width, int height);
     /// Keeps a colour; nothing is painted with it.
     void setWidgetColor(QColor color);

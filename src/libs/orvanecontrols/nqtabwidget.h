@@ -46,6 +46,7 @@ public:
 
     /// Sets the text of the tab at \a index. When the tab, without its close button, is narrower
     /// than the text at this time, the text becomes its tool tip too; otherwise the tool tip goes.
+    /// An index without a tab is ignored.
     void setTabText(int index, const QString &text);
     /// Shows the page at \a index. An index without a tab is ignored.
     void setCurrentIndex(int index);
@@ -64,7 +65,7 @@ public:
     void setTabMaxWidth(int width);
     /// Sets the ground of those pages that are a QWidget and no subclass (default white).
     void setStackedWidgetColor(QColor color);
-    /// Gives the widget a fixed size in pixels.
+    /// Gives the widget a fixed size in pixels; a negative one counts as 0.
     void setWidgetSize(int width, int height);
 
     /// The stack of pages, which the widget owns.

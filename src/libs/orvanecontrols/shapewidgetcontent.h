@@ -50,7 +50,7 @@ public:
 Q_SIGNALS:
     /// For the host's use: the grid itself never emits it.
     void sigHide();
-    /// The widget at \a index of the list was clicked.
+    /// The widget at \a index of the list was clicked. The grid may be deleted here.
     void sigClickedIndex(int index);
 
 private Q_SLOTS:

@@ -83,7 +83,8 @@ public:
     QString fromColorToStr(QColor color);
 
 Q_SIGNALS:
-    /// A mouse button was released on the slider, which has not acted on it yet.
+    /// A mouse button was released on the slider, which has not acted on it yet and may be deleted
+    /// here.
     void sliderMouseRealse();
 
 protected:

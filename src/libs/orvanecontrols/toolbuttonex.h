@@ -42,7 +42,8 @@ struct CommandLook;
  * a receiver in the same process. Any button can be made a sender, whose drag carries a text.
  *
  * The signals that carry a record are direct only: StructCabinet is not registered with Qt's
- * meta-type system. Sizes are pixels; any value is written into a sheet as it is.
+ * meta-type system. The button may be deleted in its own signals. Sizes are pixels; any value is
+ * written into a sheet as it is.
  */
 class ORVANECONTROLS_EXPORT ToolButtonEx : public QToolButton
 {

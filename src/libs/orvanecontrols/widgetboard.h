@@ -67,7 +67,8 @@ public:
     int dropDownBtnHeight() const;
 
 Q_SIGNALS:
-    /// The drop-down button was clicked; the panel is to be shown or hidden, as the flag says.
+    /// The drop-down button was clicked; the panel is to be shown or hidden, as the flag says. The
+    /// popup may be deleted here.
     void sigClickedDropDownBtn(bool shapeWidgetVisible);
 
 public Q_SLOTS:

@@ -37,7 +37,8 @@ public:
     QList<QWidget *> lsWidget() const;
 
 Q_SIGNALS:
-    /// One of the row's buttons was clicked: a panel that shows them all should hide.
+    /// One of the row's buttons was clicked: a panel that shows them all should hide. The row may
+    /// be deleted here.
     void notifyShpeWidgetHide();
 
 public Q_SLOTS:

@@ -28,7 +28,7 @@ struct WidgetInfo;
  * the focus.
  *
  * The board owns the buttons that it is given. A list that replaces another deletes those buttons
- * of the earlier one that are not in it.
+ * of the earlier one that are not in it. The board may be deleted in its own signals.
  *
  * \code
  * auto *board = new WidgetControllBoard(window);

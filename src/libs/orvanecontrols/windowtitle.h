@@ -27,6 +27,9 @@ class QPushButton;
  * title's top-left corner, the text over the picture. A host that shows both sets their geometry
  * itself. The construction makes Qt print two warnings about the layout that the labels do not get;
  * they can be ignored.
+ *
+ * A size that no widget can have becomes the nearest one. The title may be deleted in its own
+ * signals.
  */
 class ORVANECONTROLS_EXPORT WindowTitle : public QFrame
 {
