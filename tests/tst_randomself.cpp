@@ -183,8 +183,10 @@ private Q_SLOTS:
         QVERIFY2(told.at(told.size() - 2).contains(": misbehave"),
                  qPrintable(told.at(told.size() - 2)));
 
-        // The command as it is told fails in the same way at the same step.
-        QStringList again = told.last().split(' ').mid(2);
+        // The command as it is told, program and all, fails in the same way at the same step.
+        const QString program = "again: " RANDOM_PROGRAM " ";
+        QVERIFY2(told.last().startsWith(program), qPrintable(told.last()));
+        QStringList again = told.last().mid(program.size()).split(' ');
         QVERIFY(again.removeOne("--replay"));
         const Outcome second = runProgram(how + again);
         QCOMPARE(protocolOf(second), told);

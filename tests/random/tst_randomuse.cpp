@@ -213,8 +213,8 @@ struct Options {
 
 void live(const Entry &entry, const Options &options, int steps)
 {
-    const QByteArray again = "tst_randomuse --class " + entry.className + " --seed "
-        + QByteArray::number(options.seed) + " --life ";
+    const QByteArray again = QCoreApplication::applicationFilePath().toLocal8Bit() + " --class "
+        + entry.className + " --seed " + QByteArray::number(options.seed) + " --life ";
     int life = options.life >= 0 ? options.life : 0;
     const int firstLife = life;
     while (steps > 0) {
