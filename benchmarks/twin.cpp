@@ -133,6 +133,7 @@ struct Twin::Part {
     QString sheet;
     std::vector<Property> properties;
     QString elidedText; ///< What is given to a control that elides, as bare Qt has to.
+    QString caption; ///< What its button is as wide as.
     bool isDisabled = false;
     bool isHidden = false;
     bool isPlaced = false;
@@ -576,6 +577,8 @@ PartPointer readPart(const QWidget &model)
     const QVariant text = model.property("text");
     if (isElided(model) && !text.toString().isEmpty())
         part->elidedText = text.toString();
+    if (model.parentWidget() && model.parentWidget()->inherits("NQToolButton"))
+        part->caption = text.toString();
     part->isDisabled = model.testAttribute(Qt::WA_ForceDisabled);
     part->isHidden = model.testAttribute(Qt::WA_WState_ExplicitShowHide)
         && model.testAttribute(Qt::WA_WState_Hidden);
@@ -594,6 +597,16 @@ void setElidedText(QWidget *widget, const QString &text)
         widget->maximumWidth() < QWIDGETSIZE_MAX ? widget->width() : QWIDGETSIZE_MAX;
     widget->setToolTip(metrics.horizontalAdvance(text) > available ? text : QString());
     widget->setProperty("text", metrics.elidedText(text, Qt::ElideRight, available));
+}
+
+/// Makes the button around \a label as wide as it needs, in the font that the caption is shown in.
+void fitToCaption(QWidget *label, const QString &caption)
+{
+    constexpr int least = 50;
+    constexpr int padding = 5;
+    label->ensurePolished();
+    const int width = QFontMetrics(label->font()).horizontalAdvance(caption);
+    label->parentWidget()->setFixedWidth(qMax(width, least) + 2 * padding);
 }
 
 QWidget *buildPart(const Twin::Part &part, QWidget *parent, Twin::Sheets sheets);
@@ -626,6 +639,8 @@ QWidget *buildPart(const Twin::Part &part, QWidget *parent, Twin::Sheets sheets)
         widget->setGeometry(part.place);
     if (!part.elidedText.isEmpty())
         setElidedText(widget, part.elidedText);
+    if (!part.caption.isEmpty())
+        fitToCaption(widget, part.caption);
     if (part.isDisabled)
         widget->setEnabled(false);
     Kids kids;

@@ -75,6 +75,14 @@ private Q_SLOTS:
         QCOMPARE(textLabel(row)->styleSheet(), QStringLiteral("color:#000000;font: SimSun Arial;"));
     }
 
+    void fromColorToStrWritesSheetColors()
+    {
+        ComboboxItem row(nullptr, QPixmap(), "text", 0);
+        QCOMPARE(row.fromColorToStr(QColor(255, 0, 0)), QString("#ff0000"));
+        QCOMPARE(row.fromColorToStr(QColor(255, 0, 0, 128)), QString("#80ff0000"));
+        QCOMPARE(row.fromColorToStr(QColor()), QString("#000000"));
+    }
+
     void textGoesToTheLabel()
     {
         ComboboxItem row(nullptr, QPixmap(), "text", 0);

@@ -264,6 +264,18 @@ private Q_SLOTS:
         QCOMPARE(made->pos(), QPoint(0, 0));
     }
 
+    void buttonsAreBuiltOnce()
+    {
+        CustomMessageBox box;
+        const QList<PushButtonEx *> before = box.findChildren<PushButtonEx *>();
+        QCOMPARE(before.size(), 3);
+        box.createControls();
+        QCOMPARE(box.findChildren<PushButtonEx *>(), before);
+        QSignalSpy finished(&box, &QDialog::finished);
+        button(&box, "frame_apply")->click();
+        QCOMPARE(finished, (QList<QVariantList>{{2}}));
+    }
+
     void closeButtonHasItsSheetAndIsHidden()
     {
         CustomMessageBox box;

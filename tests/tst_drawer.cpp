@@ -108,8 +108,6 @@ class TestDrawer : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { qRegisterMetaType<DrawerItem *>(); }
-
     void hasDefaults()
     {
         Drawer drawer(nullptr);

@@ -230,12 +230,6 @@ class TestDrawerItem : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        qRegisterMetaType<RowLineItem *>();
-        qRegisterMetaType<OfflinePortItemFrame *>();
-    }
-
     void isBuiltFromItsParts()
     {
         DrawerItem item(nullptr);

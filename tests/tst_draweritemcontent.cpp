@@ -45,8 +45,6 @@ class TestDrawerItemContent : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { qRegisterMetaType<RowLineItem *>(); }
-
     void hasDefaults()
     {
         DrawerItemContent content(nullptr);
@@ -205,6 +203,17 @@ private Q_SLOTS:
         QEvent leave(QEvent::Leave);
         content.leaveEvent(&leave);
         QCOMPARE(content.styleSheet(), sheet);
+    }
+
+    void pressesReachSpies()
+    {
+        DrawerItemContent content;
+        QSignalSpy pressed(&content, &DrawerItemContent::signal_ItemContentPortItemPressed);
+        content.addRowLineItem(1, PortItem, {});
+        RowLineItem *row = content.lsRowLineItems().at(0);
+        portButton(row)->click();
+        QCOMPARE(pressed.size(), 1);
+        QCOMPARE(pressed.at(0).at(0).value<RowLineItem *>(), row);
     }
 
     void pressesArePassedOn()

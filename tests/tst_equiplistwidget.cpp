@@ -124,8 +124,6 @@ class TestEquipListWidget : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { qRegisterMetaType<CustomListWidgetMulItem *>(); }
-
     void isBuiltFromItsParts()
     {
         QWidget parent;

@@ -77,12 +77,6 @@ class TestListWidgetEx : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        qRegisterMetaType<CustomListWidgetItem *>();
-        qRegisterMetaType<ListWidgetEx *>();
-    }
-
     void hasDefaults()
     {
         QWidget parent;

@@ -519,6 +519,16 @@ private Q_SLOTS:
         QCOMPARE(width, textWide + 10);
     }
 
+    void captionHasItsFontFromTheStart()
+    {
+        NQToolButton button(nullptr, ImageAboveCaption);
+        const QFont before = caption(button)->font();
+        button.setStrDownText("Caption 12");
+        QCOMPARE(caption(button)->font(), before);
+        QVERIFY(pointer::showAndWait(&button));
+        QCOMPARE(caption(button)->font(), before);
+    }
+
     void oddCaptionsAreHarmless_data()
     {
         QTest::addColumn<QString>("text");
@@ -646,6 +656,7 @@ private Q_SLOTS:
         button.createButtonByType(ImageAboveCaption);
         QCOMPARE(button.styleSheet(), captioned);
         QCOMPARE(button.downLabelTextColor(), QColor(211, 211, 211));
+        QCOMPARE(caption(button)->styleSheet(), enabledCaption);
         QCOMPARE(labels(button).size(), 2);
 
         button.createButtonByType(ImageBesideImage);

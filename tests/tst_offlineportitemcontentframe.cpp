@@ -39,8 +39,6 @@ class TestOfflinePortItemContentFrame : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { qRegisterMetaType<OfflinePortItemFrame *>(); }
-
     void isBuiltFromTheForm()
     {
         OfflinePortItemContentFrame content(nullptr);

@@ -79,8 +79,6 @@ class TestRowLineItem : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { qRegisterMetaType<RowLineItem *>(); }
-
     void isBuiltFromItsParts()
     {
         RowLineItem row(nullptr);

@@ -313,7 +313,8 @@ Entry comboboxItem()
         .call(NAMED(ComboboxItem, setPixMap))
         .call(NAMED(ComboboxItem, pixMap))
         .call(NAMED(ComboboxItem, setIndex))
-        .call(NAMED(ComboboxItem, index));
+        .call(NAMED(ComboboxItem, index))
+        .call(NAMED(ComboboxItem, fromColorToStr));
 }
 
 Entry comboBoxEx()

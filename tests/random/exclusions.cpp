@@ -118,6 +118,7 @@ bool isExpected(const QString &warning)
         {"Timers cannot have negative timeouts", "Qt names the caller's time of animateClick()"},
         {"does not contain a '[*]' placeholder", "Qt names the caller's title"},
         {"qDrawShadeRect: Invalid parameters", "Qt's frame, of a line that is squeezed to nothing"},
+        {"qDrawPlainRect: Invalid parameters", "Qt's frame, on a widget that is too small for it"},
         {"Could not parse stylesheet", "texts of the caller's that are no sheets"},
         {"Could not parse application stylesheet", "texts of the caller's that are no sheets"},
     };

@@ -55,8 +55,8 @@ public:
 
     /// Shows \a w, which the strip owns from now on, in place of the content so far, which is
     /// deleted. Content wider than the window brings the right arrow, other content no arrow. The
-    /// width is taken now; content that was never resized gets its size hint first. A null pointer
-    /// is ignored.
+    /// width is taken now; content that was never resized gets its size hint first. Null is
+    /// ignored.
     void addWidget(QWidget *w);
     /// Shows the right arrow alone, or no arrow.
     void setScrollBtnIsVisble(bool b);
@@ -93,7 +93,7 @@ Q_SIGNALS:
     void signal_addRowCabinetsClicked();
 
 public Q_SLOTS:
-    /// Takes note of the scroll range in pixels; the scroll bar calls it.
+    /// Takes note of the range in pixels that the arrows scroll in; its scroll bar reports it.
     void on_getScrollerRange(int min, int max);
     /// Scrolls a step to the left and brings the right arrow; the last step hides the left one.
     void on_leftClicked();

@@ -79,6 +79,11 @@ int ComboboxItem::index() const
     return m_index;
 }
 
+QString ComboboxItem::fromColorToStr(QColor color)
+{
+    return orvane::colorText(color);
+}
+
 void ComboboxItem::mousePressEvent(QMouseEvent *)
 {
     m_isPressed = true;

@@ -52,6 +52,10 @@ public:
     /// The row number. \see setIndex()
     int index() const;
 
+    /// The text of a colour in a sheet: "#rrggbb", "#aarrggbb" when translucent, "#000000" when
+    /// invalid.
+    QString fromColorToStr(QColor color);
+
 Q_SIGNALS:
     /// The row was pressed and released: its pixmap, full text and row number.
     void showContent(QPixmap pixmap, QString text, int index);

@@ -160,6 +160,8 @@ void CustomMessageBox::createControls()
     m_ui->labelTitle->setFont(titleFont);
     m_ui->labelTips->setAlignment(Qt::AlignTop);
 
+    if (m_applyButton)
+        return; // a second set of buttons would lie on the first
     m_applyButton = makeButton(m_ui->frame_apply, ActivatedBtn);
     connect(m_applyButton, &PushButtonEx::clicked, this, &CustomMessageBox::on_handleApplyClicked);
     m_okButton = makeButton(m_ui->frame_ok, ActivatedBtn);

@@ -71,7 +71,7 @@ public:
     /// the offset inside the parent is taken as the position. Without a parent the box is centred
     /// by the size of the primary screen.
     void moveWindow(QWidget *parent);
-    /// Sets the window up and creates the buttons. The constructor calls it.
+    /// Sets the window up and creates the buttons, if there are none. The constructor calls it.
     void createControls();
 
 public Q_SLOTS:

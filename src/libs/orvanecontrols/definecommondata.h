@@ -20,9 +20,10 @@ public:
 
     /// The text of buttons, headers and rows, 9 points.
     static QString getNormalFont();
-    /// The text of captions above and below a tool button's picture, 10.5 points.
+    /// The text of the two labels of a top-to-bottom tool button, 10.5 points.
     static QString getBigFont();
-    /// The text of the large command look, 12 points. Hosts rely on the two blanks behind the size.
+    /// The text of the label beside a tool button's picture, 12 points. Hosts rely on the two
+    /// blanks behind the size.
     static QString getBiggerFont();
 };
 

@@ -7,6 +7,8 @@ Drawer::Drawer(QWidget *parent)
     : QWidget(parent)
     , m_layout(new QVBoxLayout(this))
 {
+    // Signal spies and queued connections look the type up by name.
+    qRegisterMetaType<DrawerItem *>();
     m_layout->setSpacing(10);
     m_layout->addStretch(0);
 }

@@ -6,6 +6,8 @@
 #include "internal/stylesheet.h"
 #include "internal/taborder.h"
 #include "labelex.h"
+#include "offlineportitemframe.h"
+#include "rowlineitem.h"
 #include "scrollbarex.h"
 
 #include <QCheckBox>
@@ -89,6 +91,9 @@ void removeMargins(QLayout *layout)
 DrawerItem::DrawerItem(QWidget *parent)
     : QWidget(parent)
 {
+    // Signal spies and queued connections look the types up by name.
+    qRegisterMetaType<RowLineItem *>();
+    qRegisterMetaType<OfflinePortItemFrame *>();
     init();
 }
 

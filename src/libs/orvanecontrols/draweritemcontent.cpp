@@ -11,6 +11,8 @@
 DrawerItemContent::DrawerItemContent(QWidget *parent)
     : QWidget(parent)
 {
+    // Signal spies and queued connections look the type up by name.
+    qRegisterMetaType<RowLineItem *>();
     auto *layout = new QVBoxLayout(this);
     layout->setSpacing(0);
     layout->setContentsMargins(0, 0, 0, 0);

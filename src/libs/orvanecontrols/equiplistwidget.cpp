@@ -28,6 +28,8 @@ EquipListWidget::EquipListWidget(QString title, QWidget *parent)
     , m_list(new ListWidgetEx(this))
     , m_buttonGroup(std::make_unique<QButtonGroup>())
 {
+    // Signal spies and queued connections look the type up by name.
+    qRegisterMetaType<CustomListWidgetMulItem *>();
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_title);

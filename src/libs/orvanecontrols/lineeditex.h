@@ -32,7 +32,8 @@ public:
     /// \a type that is no LineEditType gives an edit without a sheet.
     explicit LineEditEx(QWidget *parent = nullptr, LineEditType type = NormalLineEdit);
 
-    /// Applies the sheet of the type that the edit was built with.
+    /// Applies the sheet of the type that the edit was built with. An edit of a type that is no
+    /// LineEditType keeps the sheet it has.
     void initStyle();
     /// Composes the framed look's sheet from the stored values and applies it, whatever the type.
     void setNormalLineEditStyle();

@@ -7,6 +7,8 @@
 ListWidgetEx::ListWidgetEx(QWidget *parent)
     : QListWidget(parent)
 {
+    // Signal spies and queued connections look the type up by name.
+    qRegisterMetaType<CustomListWidgetItem *>();
     setStyle();
     setAttribute(Qt::WA_MacShowFocusRect, false);
 }

@@ -28,15 +28,15 @@ public:
     ~MutexButtonEx() override;
 
     /// Makes \a button checkable, puts it behind the others and fixes the size of the strip. The
-    /// button keeps its parent: make it as a child of the strip, which owns it then. A null pointer
-    /// is ignored.
+    /// button keeps its parent: make it as a child of the strip, which owns it then. Null is
+    /// ignored.
     void addButton(ToolButtonEx *button);
 
     /// Sets the width of buttons to come in pixels (default 38).
     void setButtonWidth(int width);
     /// Sets the height of buttons to come in pixels (default 26).
     void setButtonHeight(int height);
-    /// Sets the gap before buttons to come in pixels (default 0).
+    /// Sets the gap before buttons to come in pixels (default 0; below 0 they overlap).
     void setButtonSpace(int space);
 
 private:

@@ -155,9 +155,9 @@ public:
     QString fromColorToStr(QColor color);
 
 Q_SIGNALS:
-    /// The bar's: another tab is the current one, -1 when there is none left. When a tab is
-    /// removed, the bar reports this before the tab is gone; to delete the bar here, use
-    /// deleteLater().
+    /// The bar's: another tab is the current one, -1 when there is none left. While a tab is
+    /// removed, the bar reports this before it is done, with the tab no longer counted; to delete
+    /// the bar here, use deleteLater().
     void currentChanged(int index);
     /// The bar's: the close button of the tab at \a index was clicked.
     void tabCloseRequested(int index);

@@ -140,7 +140,9 @@ public Q_SLOTS:
     void slot_tabCloseRequested(int index);
 
 protected:
-    /// Gives the tab bar the new width as its maximum.
+    /// Gives the tab bar the new width as its maximum. The bar takes what its tabs need up to that,
+    /// so beside widgets in its places, or inside a frame, tabs that do not fit make the widget
+    /// wider, step by step, until they do. setWidgetSize() keeps it from that.
     void resizeEvent(QResizeEvent *event) override;
 
 private:

@@ -47,6 +47,8 @@ void NQToolButton::createButtonByType(ToolButtonType type)
         setTopToBottomStyle();
         if (!layout())
             createTopToBottomLabels();
+        else
+            setDownLabelStyle();
         break;
     case ImageBesideImage:
         initLeftToRightParam();
@@ -87,6 +89,7 @@ void NQToolButton::createTopToBottomLabels()
     m_downLabel->setAlignment(Qt::AlignCenter);
     m_downLabel->setFixedHeight(m_downLabelHeight);
     setDownLabelStyle();
+    m_downLabel->ensurePolished(); // hosts measure captions with its font, before the show too
 
     m_verticalLayout = new QVBoxLayout(this);
     m_verticalLayout->setSpacing(6);
@@ -179,7 +182,6 @@ void NQToolButton::setStrDownText(QString text)
         return;
     m_spokenCaption = m_downText; // whole, before it is cut
     orvane::speakAs(this, m_spokenCaption, spokenBefore);
-    m_downLabel->ensurePolished(); // with the font that the caption is shown in
     const QFontMetrics metrics(m_downLabel->font());
     const int captionWidth = metrics.horizontalAdvance(m_downText);
     if (captionWidth < m_minimumCaptionWidth) {

@@ -20,6 +20,8 @@ OfflinePortItemContentFrame::OfflinePortItemContentFrame(QWidget *parent)
     : QFrame(parent)
     , m_ui(std::make_unique<Ui::OfflinePortItemContentFrame>())
 {
+    // Signal spies and queued connections look the type up by name.
+    qRegisterMetaType<OfflinePortItemFrame *>();
     m_ui->setupUi(this);
 }
 

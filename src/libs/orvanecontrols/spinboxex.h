@@ -54,7 +54,8 @@ public:
     QColor disabledFontColor() const;
 
     /// Shows the value (default), or "---" in its place; a text typed into a box that hides its
-    /// value counts as 0. The shown text follows with the next setValue(). \see showValue()
+    /// value counts as 0. The shown text follows when the value is next set or stepped, or the box
+    /// is shown. \see showValue()
     void setShowValue(bool show);
     /// Whether the value is shown. \see setShowValue()
     bool showValue() const;

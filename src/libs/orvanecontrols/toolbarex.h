@@ -18,7 +18,8 @@ enum ToolBarPosition : int {
  * A dark tool bar, 40 pixels high, with a group of buttons or widgets at either end.
  *
  * The groups grow towards each other; separators go to the left group only. The bar owns what it is
- * given. It has no signals of its own: connect to the buttons.
+ * given, and ignores null and a position that it does not have. It has no signals of its own:
+ * connect to the buttons.
  */
 class ORVANECONTROLS_EXPORT ToolBarEx : public QFrame
 {
@@ -30,8 +31,7 @@ public:
 
     /// Fixes \a button to 30 x 30 pixels and adds it as addWidget() does.
     void addButton(ToolButtonEx *button, ToolBarPosition position);
-    /// Puts \a widget, as it is, behind the others at \a position. A null pointer is ignored; at a
-    /// position that is neither side nothing is added, and the widget keeps its parent.
+    /// Puts \a widget, as it is, behind the others at \a position. What is ignored keeps its parent.
     void addWidget(QWidget *widget, ToolBarPosition position);
     /// Puts a thin vertical line behind the others at the left.
     void addSeparator();

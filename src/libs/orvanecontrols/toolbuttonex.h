@@ -55,9 +55,9 @@ public:
     ToolButtonEx(QWidget *parent, ButtonType type, QString upText, QString downText);
     ~ToolButtonEx() override;
 
-    /// Builds what a button of \a type consists of and applies its sheet; the type stays. The
-    /// constructor calls it. Labels are built only into a button that has no layout yet. Any other
-    /// type does nothing.
+    /// Builds what a button of \a type consists of, gives that look its defaults and applies its
+    /// sheet; the type stays. The constructor calls it. Labels are built only into a button that
+    /// has no layout yet. Any other type does nothing.
     void createButtonByType(ButtonType type);
     /// Stores the type. The two command types also get their default colours and their sheet; for
     /// any other, neither children nor sheet change.
@@ -89,17 +89,18 @@ public:
     /// Stores both picture paths and shows the one of the present state, if there is a left label.
     /// A path without a picture shows none.
     void setLeftLabelStyle(QString normalPath, QString pressedPath);
-    /// Gives the left label \a sheet as its sheet, if there is one.
+    /// Gives the left label, if there is one, \a sheet as its whole sheet.
     void setLeftLabelImg(QString sheet);
-    /// Shows or hides the smaller text (hidden at first).
+    /// Shows or hides the smaller text of the left-to-right look (hidden at first).
     void setRightBottomLableVisible(bool visible);
     /// The label of the left-to-right look's picture, null on other looks and once it is deleted.
     QLabel *pLabelLeft() const;
-    /// Puts \a label, null for none, in the place of pLabelLeft(); no layout and no owner changes.
+    /// Puts \a label in the place of pLabelLeft(): the setters then reach that one. Neither label
+    /// changes its parent or its place, and null is taken.
     void setPLabelLeft(QLabel *label);
     /// The label of the left-to-right look's text, null on other looks and once it is deleted.
     LabelEx *pLabelRight() const;
-    /// Puts \a label, null for none, in the place of pLabelRight(); no layout and no owner changes.
+    /// Puts \a label in the place of pLabelRight(), as setPLabelLeft() does.
     void setPLabelRight(LabelEx *label);
 
     /// What a release does on a cabinet kind, for the host to call. While the button is pressed:
@@ -407,9 +408,9 @@ protected:
     /// added: from the press on a cabinet kind, and from the top left corner on any other. Returns
     /// when the drag has ended.
     void mouseMoveEvent(QMouseEvent *event) override;
-    /// Shows the hovered look, and the host's cursor if that is switched on.
+    /// Shows the hovered look, and the library's own cursor if setIsChangeMouseStyle() is on.
     void enterEvent(QEvent *event) override;
-    /// Shows the normal look, and the arrow cursor.
+    /// Shows the normal look, and the arrow cursor if setIsChangeMouseStyle() is on.
     void leaveEvent(QEvent *event) override;
 
 private:

@@ -48,7 +48,7 @@ public:
 
     /// Shows \a w, which the strip owns from now on, in place of the content so far, which is
     /// deleted. Content wider than the window brings the right arrow; otherwise the arrows stay as
-    /// they are. The width is taken now, so size \a w first. A null pointer is ignored.
+    /// they are. The width is taken now, so size \a w first. Null is ignored.
     void addWidget(QWidget *w);
     /// Deletes the content, if there is any. The arrows stay as they are.
     void removeWidget();
@@ -58,14 +58,15 @@ public:
     /// Shows the right arrow, or its placeholder.
     void setRightButtonVisible(bool b);
 
-    /// Sets by how many pixels a click on an arrow scrolls (default 74). A negative step scrolls
-    /// the other way. \see scrollSingleStepValue()
+    /// Sets by how many pixels a click on an arrow scrolls (default 74). Any number is taken; below
+    /// 0 the arrows go the other way.
+    /// \see scrollSingleStepValue()
     void setScrollSingleStepValue(int value);
     /// By how many pixels a click on an arrow scrolls. \see setScrollSingleStepValue()
     int scrollSingleStepValue() const;
 
 public Q_SLOTS:
-    /// Takes note of the scroll range in pixels; the scroll bar calls it.
+    /// Takes note of the range in pixels that the arrows scroll in; its scroll bar reports it.
     void on_rangChanged(int min, int max);
     /// Scrolls a step to the left and brings the right arrow; the last step hides the left one.
     void on_leftClicked();
