@@ -31,7 +31,8 @@ public:
 
     /// Fixes \a button to 30 x 30 pixels and adds it as addWidget() does.
     void addButton(ToolButtonEx *button, ToolBarPosition position);
-    /// Puts \a widget, as it is, behind the others at \a position. What is ignored keeps its parent.
+    /// Puts \a widget, as it is, behind the others at \a position. A widget that is ignored keeps
+    /// its parent.
     void addWidget(QWidget *widget, ToolBarPosition position);
     /// Puts a thin vertical line behind the others at the left.
     void addSeparator();
