@@ -91,6 +91,8 @@ void sendDeferredDeletes()
 
 } // namespace
 
+Q_DECLARE_METATYPE(Qt::FocusPolicy)
+
 class TestNewTableWidget : public TestCase
 {
     Q_OBJECT
@@ -243,6 +245,83 @@ private Q_SLOTS:
         QTest::keyClick(&table, Qt::Key_Tab);
         QVERIFY(table.hasFocus());
         QCOMPARE(table.currentColumn(), 1);
+    }
+
+    void tabKeyGoesFromTheCellsToTheBoxes()
+    {
+        QWidget window;
+        NewTableWidget table(&window);
+        fill(table, 3, 2);
+        table.setAddCheckBoxVisible(true);
+        const QPushButton behind(&window);
+        QVERIFY(pointer::showAndWait(&window));
+        QApplication::setActiveWindow(&window);
+        table.setFocusPolicy(Qt::StrongFocus); // the host's choice
+        table.setCurrentCell(0, 1);
+        table.setFocus();
+        QVERIFY(table.hasFocus());
+        QTest::keyClick(&table, Qt::Key_Tab);
+        QVERIFY(table.hasFocus());
+        QCOMPARE(table.currentColumn(), 2);
+        QTest::keyClick(&table, Qt::Key_Tab);
+        QVERIFY(rowBox(table, 1)->hasFocus());
+        QTest::keyClick(rowBox(table, 1), Qt::Key_Tab);
+        QVERIFY(rowBox(table, 2)->hasFocus());
+        QTest::keyClick(rowBox(table, 2), Qt::Key_Tab);
+        QVERIFY(behind.hasFocus());
+    }
+
+    void boxesFollowTheTableInTheTabOrder_data()
+    {
+        QTest::addColumn<Qt::FocusPolicy>("policy");
+        QTest::newRow("a table without focus") << Qt::NoFocus;
+        QTest::newRow("a table that is a stop itself") << Qt::StrongFocus;
+    }
+
+    void boxesFollowTheTableInTheTabOrder()
+    {
+        QFETCH(Qt::FocusPolicy, policy);
+        QWidget window;
+        QPushButton before(&window);
+        NewTableWidget table(&window);
+        const QPushButton behind(&window);
+        fill(table, 2, 1);
+        table.setFocusPolicy(policy);
+        table.setTabKeyNavigation(false);
+        QVERIFY(pointer::showAndWait(&window));
+        QApplication::setActiveWindow(&window);
+        for (int i = 0; i < 2; ++i) {
+            table.setAddCheckBoxVisible(true);
+            QCOMPARE(table.focusPolicy(), policy);
+            table.setCurrentCell(0, 1); // else the table hands the focus to the first box
+            before.setFocus();
+            QList<const QWidget *> stops = {headerBox(table), rowBox(table, 0), rowBox(table, 1),
+                                            &behind, &before};
+            if (policy != Qt::NoFocus)
+                stops.prepend(&table);
+            for (const QWidget *stop : qAsConst(stops)) {
+                QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+                QCOMPARE(QApplication::focusWidget(), stop);
+            }
+            table.setAddCheckBoxVisible(false);
+            sendDeferredDeletes();
+            table.removeColumn(0);
+        }
+    }
+
+    void theFirstBoxGetsTheFocusOfATableWithoutACurrentCell()
+    {
+        NewTableWidget table;
+        fill(table, 3, 2);
+        table.setAddCheckBoxVisible(true);
+        QVERIFY(pointer::showAndWait(&table));
+        QApplication::setActiveWindow(&table);
+        table.setFocus();
+        QVERIFY(rowBox(table, 0)->hasFocus());
+        table.setCurrentCell(0, 1); // leaves it there, so that the tab key goes to the next box
+        QVERIFY(rowBox(table, 0)->hasFocus());
+        QTest::keyClick(rowBox(table, 0), Qt::Key_Tab);
+        QVERIFY(rowBox(table, 1)->hasFocus());
     }
 
     void theCheckBoxColumnComesFirst()

@@ -262,6 +262,22 @@ private Q_SLOTS:
         QCOMPARE(filled.tree->horizontalScrollBar()->maximum(), 0);
     }
 
+    void theColumnKeepsTheWidthThatTheTreeHad()
+    {
+        Filled filled(1); // the tree is 300 wide
+        TreeViewEx &tree = *filled.tree;
+        QVERIFY(pointer::showAndWait(&tree));
+        QTRY_COMPARE(tree.columnWidth(0), tree.viewport()->width());
+        tree.resize(200, 400);
+        QTRY_COMPARE(tree.columnWidth(0), 270);
+        QTRY_COMPARE(tree.horizontalScrollBar()->maximum(), 270 - tree.viewport()->width());
+        QCOMPARE(tree.horizontalScrollBar()->value(), tree.horizontalScrollBar()->maximum());
+
+        tree.addTreeItem(filled.family, "P", {1, 1}, nullptr, Qt::Unchecked);
+        QTRY_COMPARE(tree.columnWidth(0), tree.viewport()->width());
+        QTRY_COMPARE(tree.horizontalScrollBar()->maximum(), 0);
+    }
+
     void aClickTogglesTheRow_data()
     {
         QTest::addColumn<Qt::CheckState>("before");

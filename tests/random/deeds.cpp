@@ -320,6 +320,17 @@ void move(Life &life)
     life.widget()->move(position);
 }
 
+/// Qt's windows go on pointing to a focus widget that left them while it was hidden, even when it
+/// is deleted: plain buttons crash by it, too.
+void forgetFocusIn(const QWidget *widget)
+{
+    for (const QWidget *around = widget; around; around = around->parentWidget()) {
+        QWidget *focus = around->focusWidget();
+        if (focus && (focus == widget || widget->isAncestorOf(focus)))
+            focus->clearFocus();
+    }
+}
+
 void reparent(Life &life)
 {
     QWidget *widget = life.widget();
@@ -330,6 +341,7 @@ void reparent(Life &life)
             return;
     }
     protocol::note(parent ? parent->metaObject()->className() : "none");
+    forgetFocusIn(widget);
     widget->setParent(parent);
     if (life.dice().chance(70) && isPaintable(widget))
         widget->show();
@@ -341,15 +353,18 @@ void grab(Life &life)
     QWidget *widget = life.widget();
     if (!isPaintable(widget))
         return;
-    // Once more, as the first picture may find out what size the widget needs.
-    widget->grab();
-    if (life.widget() != widget || !isPaintable(widget))
-        return;
-    const QPixmap picture = widget->grab();
-    if (life.widget() != widget || (widget->size().isEmpty() && picture.isNull()))
-        return;
-    if (picture.size() != widget->size() * picture.devicePixelRatio())
-        protocol::fail("grab() gives another size than the widget's");
+    // A picture may find out what size the widget needs: some tabs take several, step by step.
+    constexpr int mostPictures = 20;
+    for (int count = 1; count <= mostPictures; ++count) {
+        const QPixmap picture = widget->grab();
+        if (life.widget() != widget || !isPaintable(widget))
+            return;
+        if (picture.size() == widget->size() * picture.devicePixelRatio()
+            || (widget->size().isEmpty() && picture.isNull())) {
+            return;
+        }
+    }
+    protocol::fail("grab() never gives the widget's size");
 }
 
 void closeWidget(Life &life)

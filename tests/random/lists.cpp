@@ -170,7 +170,7 @@ Entry tableWidgetEx()
         .call(NAMED(TableWidgetEx, initCornerWidget))
         .call(NAMED(TableWidgetEx, setIsShowAddButton))
         .call(NAMED(TableWidgetEx, setTabsClosable))
-        .call(NAMED(TableWidgetEx, setCornerWidget))
+        .call(NAMED(TableWidgetEx, setCornerWidget), Again::Grows) // Qt keeps the earlier ones
         .call(NAMED(TableWidgetEx, removeTab))
         .call(NAMED(TableWidgetEx, addTable), Again::Grows)
         .call(NAMED(TableWidgetEx, addTab), Again::Grows)
@@ -254,9 +254,17 @@ Entry newTableWidget()
              [](Life &life, NewTableWidget *subject) {
                  subject->setColumnCount(life.dice().below(6));
              })
+        .act("removeRow",
+             [](Life &life, NewTableWidget *subject) {
+                 subject->removeRow(life.dice().between(-1, 8));
+             })
+        .act("removeColumn",
+             [](Life &life, NewTableWidget *subject) {
+                 subject->removeColumn(life.dice().between(-1, 7));
+             })
         .call(NAMED(NewTableWidget, initTable))
         .call(NAMED(NewTableWidget, initTableStyle))
-        .call(NAMED(NewTableWidget, setAddCheckBoxVisible))
+        .call(NAMED(NewTableWidget, setAddCheckBoxVisible), Again::Grows) // a column each time
         .call(NAMED(NewTableWidget, createCheckBoxColumn), Again::Grows)
         .call(NAMED(NewTableWidget, on_notifyStateChange))
         .call(NAMED(NewTableWidget, on_valueChange));

@@ -16,6 +16,7 @@
 #include <QLayout>
 #include <QTextStream>
 
+#include <algorithm>
 #include <ctime>
 
 namespace
@@ -32,11 +33,32 @@ constexpr int defaultSteps = 200000;
 
 QByteArray firstWarning;
 
+/// A window of many million pixels is no error, but nobody can pay for its picture, and Qt has none
+/// to paint on.
+bool isHuge(const QWidget *window)
+{
+    constexpr qint64 mostPixels = 2000000;
+    constexpr int mostWidth = 32767;
+    return qint64(window->width()) * window->height() > mostPixels || window->width() > mostWidth
+        || window->height() > mostWidth;
+}
+
+bool isHugeWindowShown()
+{
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    return std::any_of(windows.begin(), windows.end(),
+                       [](const QWidget *window) { return window->isVisible() && isHuge(window); });
+}
+
 void takeMessage(QtMsgType type, const QMessageLogContext &, const QString &text)
 {
     if (type == QtFatalMsg)
         protocol::fail("qFatal: " + text.toUtf8());
     if (type == QtDebugMsg || type == QtInfoMsg || isExpected(text) || !firstWarning.isEmpty())
+        return;
+    const bool isAboutPainting = text.contains(QLatin1String("paintEngine: Should no longer"))
+        || text.startsWith(QLatin1String("QPainter::"));
+    if (isAboutPainting && isHugeWindowShown())
         return;
     firstWarning = text.toUtf8();
 }
@@ -185,13 +207,11 @@ private:
         hideHugeWindows();
     }
 
-    /// A window of many million pixels is no error, but nobody can pay for its picture.
     static void hideHugeWindows()
     {
-        constexpr qint64 most = 2000000;
         const QWidgetList windows = QApplication::topLevelWidgets();
         for (QWidget *window : windows) {
-            if (window->isVisible() && qint64(window->width()) * window->height() > most)
+            if (window->isVisible() && isHuge(window))
                 window->hide();
         }
     }

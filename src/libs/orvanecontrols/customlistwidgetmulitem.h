@@ -20,7 +20,9 @@ class QHBoxLayout;
  *
  * More than two texts stand in columns of 206, 110 and 40 pixels, and whatever space there is for
  * the others. Of one or two texts the first takes 256 pixels and the second stands at the right. A
- * text that does not fit is elided and becomes the tool tip.
+ * text that is wider than its column is elided and becomes the tool tip. Where a column has no
+ * width of its own, 100 pixels count, whatever space there is later: call setText() of its label
+ * again.
  *
  * Presses and releases end here, so that they select no row in the list; only a double click is
  * reported. The row, its list included, may be deleted in both signals.

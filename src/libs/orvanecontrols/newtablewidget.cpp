@@ -4,6 +4,7 @@
 #include "internal/spokenname.h"
 #include "internal/stylesheet.h"
 #include "internal/tablelook.h"
+#include "internal/taborder.h"
 
 #include <QHeaderView>
 #include <QScrollBar>
@@ -22,6 +23,19 @@ QCheckBox *makeCheckBox(QWidget *table)
     auto *box = new QCheckBox(table);
     box->setAttribute(Qt::WA_TranslucentBackground);
     return box;
+}
+
+/// Makes the tab key go from \a table to each of the boxes.
+void followInTabOrder(QWidget *table, const QList<QWidget *> &boxes)
+{
+    if (table->focusProxy()) // a host's, which would take over the policy below
+        return;
+    // The window may hold more by now, and Qt puts what is new at the end. It orders only what
+    // takes the focus, which the table mostly does not.
+    const Qt::FocusPolicy policy = table->focusPolicy();
+    table->setFocusPolicy(Qt::TabFocus);
+    orvane::tabInOrder(QList<QWidget *>{table} + boxes);
+    table->setFocusPolicy(policy);
 }
 
 /// What QCheckBox::setChecked() does, signals included, but the box, or the table around it, may be
@@ -94,11 +108,14 @@ void NewTableWidget::createCheckBoxColumn()
             &NewTableWidget::on_notifyStateChange);
     m_headerCheckBox->show(); // by itself it comes only with a table that is not shown yet
 
+    QList<QWidget *> boxes = {m_headerCheckBox};
     for (int row = 0; row < rowCount(); ++row) {
         QCheckBox *box = makeCheckBox(this);
         orvane::speakAs(box, tr("Select row"));
         setCellWidget(row, 0, box);
+        boxes.append(box);
     }
+    followInTabOrder(this, boxes);
     m_isCheckBoxColumnShown = true;
     if (isRightToLeft())
         placeMirroredHeaderCheckBox();

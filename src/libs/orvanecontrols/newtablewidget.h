@@ -14,8 +14,8 @@
  * The boxes are for the rows that the table has when the column is built; rows added later get
  * none. The box of a row is its cell widget in column 0, a QCheckBox: read and connect it there.
  * The header box checks and unchecks them all; it does not follow them. Rows, columns and boxes may
- * be taken out in any signal of the boxes, and the table may be deleted in their stateChanged(int)
- * and clicked(bool).
+ * be taken out in any signal of the boxes. The table may be deleted in their stateChanged(int) and
+ * clicked(bool) when a person clicked the box, not when a host called its click() or setChecked().
  *
  * The header box is 26 pixels high and stands 10 pixels below the table's top, so give the header
  * 36 pixels or more. There is no horizontal scroll bar; where columns do not fit, the table scrolls
@@ -39,7 +39,7 @@ public:
     /// column is inserted, so remove the empty one first.
     void setAddCheckBoxVisible(bool isVisible);
     /// Inserts a column of 30 pixels at the left, with a check box for every row, and makes the
-    /// header box, in place of one that there is.
+    /// header box, in place of one that there is. In the tab order they follow the table.
     void createCheckBoxColumn();
 
 public Q_SLOTS:
@@ -56,7 +56,9 @@ protected:
     /// Places the boxes of the rows and, in a layout from right to left, that of the header.
     void updateEditorGeometries() override;
     /// Lets the tab key go from box to box and out of the table; among the cells it goes only while
-    /// the table itself has the focus.
+    /// the table itself has the focus. A cell with a box hands the focus to it when it becomes the
+    /// current one: in a table that gets the focus without a current cell, the first row's box has
+    /// it.
     bool focusNextPrevChild(bool next) override;
 
 private:

@@ -11,8 +11,9 @@
  * that are checkable and drawn by a TreeItem.
  *
  * A click anywhere on such a row checks it, or unchecks it if it was checked. The tree has no
- * signals of its own: connect to itemChanged() and itemClicked(). As it scrolls sideways it keeps
- * its right end in sight. Every change of an item and of the sideways range writes a debug message.
+ * signals of its own: connect to itemChanged() and itemClicked(). Items may be deleted in both, the
+ * tree itself only by deleteLater(). When what it scrolls sideways changes in width, it goes to its
+ * right end. Every change of an item and of the sideways range writes a debug message.
  */
 class ORVANECONTROLS_EXPORT TreeViewEx : public QTreeWidget
 {
@@ -25,6 +26,10 @@ public:
     /// Adds a row for the model \a name of \a size in pixels of the wall at the end of
     /// \a parentItem. The row has the check state \a state and carries \a object, which stays the
     /// host's and may be null. Its TreeItem is the itemWidget() of column 0.
+    ///
+    /// The only column keeps at least the width that the tree has now, less 30 pixels, until the
+    /// next row is added: give the tree its width first, or it scrolls sideways once it is
+    /// narrower.
     ///
     /// A null pointer and an item of another tree add nothing. An item that is in no tree has to
     /// be put into this one next; the tree would not hear of its deletion.
