@@ -15,6 +15,7 @@ from pathlib import Path
 
 SHOW_LIMIT = 1.03
 UNCHANGED_LIMIT = 0.1
+BATCH_LIMIT = 1.5
 PAINT_LIMIT = 1.5
 LOAD_LIMIT_MS = 5
 GROWTH_LIMIT = 1.15
@@ -109,11 +110,14 @@ def targets(folder):
     steady = {name: steady[name] for name in shows if name in steady}
     shows.update({name: run["ratio"] for name, run in panels.items() if name.startswith("show")})
     unchanged = {name: run["ratio"] for name, run in of_kind(promises, "unchanged").items()}
+    batch = {name: run["ratio"] for name, run in panels.items() if name == "setTwentyColors/batch:1"}
     return [
         Target("construct and show, of bare Qt with the same sheets", SHOW_LIMIT, shows),
         Target("the same, in instructions instead of time", SHOW_LIMIT, steady),
         Target("ten setters with unchanged values, of one with another value", UNCHANGED_LIMIT,
                unchanged),
+        Target("twenty setters with new values in a StyleSheetBatch, of one without", BATCH_LIMIT,
+               batch),
         Target("painting a cabinet, of a bare tool button with its sheet", PAINT_LIMIT,
                ratio("paintCabinet")),
         Target("loading the library", LOAD_LIMIT_MS, milliseconds("load"), " ms"),

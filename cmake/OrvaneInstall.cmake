@@ -30,6 +30,16 @@ function(orvane_way variable from to)
     set(${variable} ${way} PARENT_SCOPE)
 endfunction()
 
+# orvane_compress(FILE TARGET): packs what Debian wants packed, with gzip to the same bytes each time.
+find_program(ORVANE_GZIP gzip)
+function(orvane_compress file target)
+    if(ORVANE_GZIP)
+        execute_process(COMMAND ${ORVANE_GZIP} -9nc ${file} OUTPUT_FILE ${target})
+    else()
+        file(ARCHIVE_CREATE OUTPUT ${target} PATHS ${file} FORMAT raw COMPRESSION GZip)
+    endif()
+endfunction()
+
 # The library
 target_include_directories(orvanecontrols PUBLIC
     $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>
@@ -89,6 +99,17 @@ if(ORVANE_BUILD_APPS)
     set_target_properties(gallery orvane-wall PROPERTIES INSTALL_RPATH $ORIGIN/${bin_to_lib})
     install(TARGETS gallery orvane-wall
         RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT Tools)
+
+    foreach(page wall/orvane-wall.1 gallery/orvane-gallery.1)
+        set(text ${CMAKE_CURRENT_BINARY_DIR}/package/${page})
+        configure_file(${PROJECT_SOURCE_DIR}/src/apps/${page}.in ${text} @ONLY)
+        orvane_compress(${text} ${text}.gz)
+        install(FILES ${text}.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT Tools)
+    endforeach()
+    install(FILES ${PROJECT_SOURCE_DIR}/src/apps/wall/orvane-wall.desktop
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/applications COMPONENT Tools)
+    install(FILES ${PROJECT_SOURCE_DIR}/src/apps/common/host/logo.svg RENAME orvane-wall.svg
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps COMPONENT Tools)
 endif()
 
 # The Qt Designer plugin

@@ -24,6 +24,16 @@ set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY ">=")
 set(CPACK_DEBIAN_ENABLE_COMPONENT_DEPENDS ON)
 
+# Debian's changelog names the release, and leaves what is new to the project's own.
+set(ORVANE_DEBIAN_DIR ${CMAKE_CURRENT_LIST_DIR}/debian)
+set(changelogs ${PROJECT_BINARY_DIR}/package)
+string(TIMESTAMP build_date "%a, %d %b %Y %H:%M:%S +0000" UTC)
+configure_file(${ORVANE_DEBIAN_DIR}/changelog.in ${changelogs}/changelog.Debian @ONLY)
+configure_file(${PROJECT_SOURCE_DIR}/CHANGELOG.md ${changelogs}/changelog COPYONLY)
+foreach(changelog changelog changelog.Debian)
+    orvane_compress(${changelogs}/${changelog} ${changelogs}/${changelog}.gz)
+endforeach()
+
 # orvane_package(COMPONENT PACKAGE SECTION SUMMARY DESCRIPTION [OTHER_COMPONENT ...])
 macro(orvane_package component package section summary description)
     string(TOUPPER ${component} key)
@@ -34,12 +44,15 @@ macro(orvane_package component package section summary description)
     set(CPACK_COMPONENT_${key}_DEPENDS ${ARGN})
     install(FILES ${PROJECT_SOURCE_DIR}/LICENSE
         DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/${package} RENAME copyright COMPONENT ${component})
+    install(FILES ${changelogs}/changelog.gz ${changelogs}/changelog.Debian.gz
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/${package} COMPONENT ${component})
 endmacro()
 
 orvane_package(Runtime liborvanecontrols${PROJECT_VERSION_MAJOR} libs
     "dark Qt 5 widgets for LED-wall configuration programs"
     "Restyled standard controls and, built on them, the panels on which an LED
 wall is laid out. This package holds the shared library.")
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA ${ORVANE_DEBIAN_DIR}/triggers)
 orvane_package(Development liborvanecontrols-dev libdevel
     "dark Qt 5 widgets for LED-wall configuration programs - development files"
     "Restyled standard controls and, built on them, the panels on which an LED
@@ -47,6 +60,9 @@ wall is laid out. This package holds the headers, a CMake package, a pkg-config
 file and a qmake feature."
     Runtime)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "qtbase5-dev (>= 5.14)")
+install(FILES ${ORVANE_DEBIAN_DIR}/liborvanecontrols-dev.lintian-overrides
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/lintian/overrides RENAME liborvanecontrols-dev
+    COMPONENT Development)
 if(ORVANE_BUILD_APPS)
     orvane_package(Tools orvane-tools graphics
         "LED-wall configurator and widget gallery"

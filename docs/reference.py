@@ -6,7 +6,7 @@
   reference.py filter HEADER       print the header as Doxygen is to read it: with the family of
                                    each item and the picture of each class in its documentation
   reference.py check FOLDER        complain about each public item without documentation, each class
-                                   without a picture, and each page whose pictures are not there
+                                   without a picture, and each page that leads to nowhere
 
 The families are the headings in the library's CMakeLists.txt.  The gallery renders the pictures,
 one for each of its pages.  Doxygen itself complains about most items without documentation, but
@@ -101,11 +101,19 @@ def is_documented(element):
     return any("".join(part.itertext()).strip() for part in parts if part is not None)
 
 
-def check_pictures(folder):
-    return [f"{page.name} shows {picture}, which is not there"
-            for page in sorted(folder.glob("*.html"))
-            for picture in re.findall(r'<img src="([^"]+)"', page.read_text(encoding="utf-8"))
-            if not (folder / picture).is_file()]
+def check_pages(folder):
+    """Complaints about pictures and places that the pages name and that are not there."""
+    texts = {page.name: page.read_text(encoding="utf-8") for page in sorted(folder.glob("*.html"))}
+    places = {name: set(re.findall(r'(?:id|name)="([^"]+)"', text)) for name, text in texts.items()}
+    missing = []
+    for name, text in texts.items():
+        for target in sorted(set(re.findall(r'(?:href|src)="([^":]+)"', text))):
+            file, _, place = target.partition("#")
+            file = file or name
+            if (not (folder / file).is_file()
+                    or (place and file in places and place not in places[file])):
+                missing.append(f"{name} names {target}, which is not there")
+    return missing
 
 
 def check_items(folder):
@@ -152,7 +160,7 @@ def main():
         return
     elif (verb, len(arguments)) == ("check", 1):
         folder = Path(*arguments)
-        complaints = check_items(folder / "xml") + check_pictures(folder / "html")
+        complaints = check_items(folder / "xml") + check_pages(folder / "html")
     else:
         sys.exit(__doc__)
     for complaint in complaints:

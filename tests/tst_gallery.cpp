@@ -195,6 +195,7 @@ private Q_SLOTS:
             << QStringList{"--render", "@FILE@"} << QByteArray("plain.txt");
         QTest::newRow("unknown option")
             << QStringList{"--no-such-option"} << QByteArray("no-such-option");
+        QTest::newRow("options of Qt's") << QStringList{"--help-all"} << QByteArray("help-all");
         QTest::newRow("option without its value") << QStringList{"--page"} << QByteArray("page");
         QTest::newRow("stray argument") << QStringList{"CheckBoxEx"} << QByteArray("CheckBoxEx");
         QTest::newRow("no display") << QStringList() << QByteArray("--render");

@@ -67,13 +67,13 @@ QStringList publicFunctions(const QString &className, const QString &body)
     return names;
 }
 
-/// The classes and records in the public headers, with the names of their public functions.
-QMap<QString, QStringList> publicClasses()
+/// The classes and records in the public headers, with what stands in their braces.
+QMap<QString, QString> publicBodies()
 {
     static const QRegularExpression declaration(
         "\n(?:class ORVANECONTROLS_EXPORT|struct) (\\w+)(?: : public \\w+)?\\s*\\{(.*?)\n\\};",
         QRegularExpression::DotMatchesEverythingOption);
-    QMap<QString, QStringList> classes;
+    QMap<QString, QString> bodies;
     const QStringList headers = QString(ORVANE_HEADERS).split(',');
     for (const QString &header : headers) {
         QFile file(QString(ORVANE_HEADER_DIR "/") + header);
@@ -82,11 +82,19 @@ QMap<QString, QStringList> publicClasses()
         auto matches = declaration.globalMatch(withoutComments(QString::fromUtf8(file.readAll())));
         while (matches.hasNext()) {
             const QRegularExpressionMatch match = matches.next();
-            QString body = match.captured(2);
-            body.remove("Q_OBJECT");
-            classes.insert(match.captured(1), publicFunctions(match.captured(1), body));
+            bodies.insert(match.captured(1), match.captured(2).remove("Q_OBJECT"));
         }
     }
+    return bodies;
+}
+
+/// Those classes and records, with the names of their public functions.
+QMap<QString, QStringList> publicClasses()
+{
+    const QMap<QString, QString> bodies = publicBodies();
+    QMap<QString, QStringList> classes;
+    for (auto one = bodies.begin(); one != bodies.end(); ++one)
+        classes.insert(one.key(), publicFunctions(one.key(), one.value()));
     return classes;
 }
 
@@ -121,6 +129,28 @@ private Q_SLOTS:
         QVERIFY2(missing.isEmpty(), qPrintable("not called: " + missing.join(", ")));
     }
 
+    void everyExclusionNamesWhatIsThere()
+    {
+        const QMap<QString, QString> bodies = publicBodies();
+        const Outcome outcome = runProgram({"--excluded"});
+        QCOMPARE(outcome.exitCode, 0);
+        static const QRegularExpression form("^(\\w+) (\\w*): .+$");
+        QStringList named;
+        for (const QString &line : outcome.output.split('\n', Qt::SkipEmptyParts)) {
+            const QRegularExpressionMatch match = form.match(line);
+            QVERIFY2(match.hasMatch(), qPrintable(line));
+            const QString className = match.captured(1);
+            named.append(className);
+            if (className.startsWith('Q')) // Qt's
+                continue;
+            QVERIFY2(bodies.contains(className), qPrintable(line));
+            const QRegularExpression member("\\b" + match.captured(2) + "\\b");
+            QVERIFY2(bodies.value(className).contains(member), qPrintable(line));
+        }
+        QVERIFY(named.contains("ScrollBarEx"));
+        QVERIFY(named.contains("QWidget"));
+    }
+
     void failureIsToldAndRepeats_data()
     {
         QTest::addColumn<QString>("fault");
@@ -153,8 +183,10 @@ private Q_SLOTS:
         QVERIFY2(told.at(told.size() - 2).contains(": misbehave"),
                  qPrintable(told.at(told.size() - 2)));
 
-        // The command as it is told fails in the same way at the same step.
-        QStringList again = told.last().split(' ').mid(2);
+        // The command as it is told, program and all, fails in the same way at the same step.
+        const QString program = "again: " RANDOM_PROGRAM " ";
+        QVERIFY2(told.last().startsWith(program), qPrintable(told.last()));
+        QStringList again = told.last().mid(program.size()).split(' ');
         QVERIFY(again.removeOne("--replay"));
         const Outcome second = runProgram(how + again);
         QCOMPARE(protocolOf(second), told);

@@ -96,6 +96,7 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("named");
         QTest::newRow("unknown option")
             << QStringList{"--no-such-option"} << QByteArray("no-such-option");
+        QTest::newRow("options of Qt's") << QStringList{"--help-all"} << QByteArray("help-all");
         QTest::newRow("two unknown options")
             << QStringList{"--first", "--second"} << QByteArray("second");
         QTest::newRow("option without its value") << QStringList{"--page"} << QByteArray("page");

@@ -9,10 +9,10 @@ file(MAKE_DIRECTORY ${SCRATCH_DIR})
 step(dpkg --print-architecture)
 string(STRIP "${output}" architecture)
 
-# check_package(NAME DEPENDS PATTERN ... FILES PATTERN): each of DEPENDS is depended on, and each
-# file but the licence matches FILES.
+# check_package(NAME DEPENDS PATTERN ... FILES PATTERN ...): each of DEPENDS is depended on; each of
+# FILES matches a file, and each file but licence and changelogs matches one of them.
 function(check_package name)
-    cmake_parse_arguments(PARSE_ARGV 1 expect "" "FILES" "DEPENDS")
+    cmake_parse_arguments(PARSE_ARGV 1 expect "" "" "DEPENDS;FILES")
     set(package ${PACKAGE_DIR}/${name}_${ORVANE_VERSION}-1_${architecture}.deb)
     step(dpkg-deb --field ${package} Depends)
     string(REGEX REPLACE ", |\n" ";" depends "${output}")
@@ -29,15 +29,23 @@ function(check_package name)
     step(dpkg-deb --extract ${package} ${SCRATCH_DIR}/${name})
     step(dpkg-deb --extract ${package} ${root})
     file(GLOB_RECURSE files RELATIVE ${SCRATCH_DIR}/${name}/usr ${SCRATCH_DIR}/${name}/*)
-    if(NOT share/doc/${name}/copyright IN_LIST files)
-        message(FATAL_ERROR "${name} lacks its licence")
-    endif()
-    list(REMOVE_ITEM files share/doc/${name}/copyright)
-    foreach(file ${files})
-        if(NOT file MATCHES "^(${expect_FILES})$")
-            message(FATAL_ERROR "${name} holds ${file}")
+    foreach(paper copyright changelog.gz changelog.Debian.gz)
+        if(NOT share/doc/${name}/${paper} IN_LIST files)
+            message(FATAL_ERROR "${name} lacks its ${paper}")
         endif()
+        list(REMOVE_ITEM files share/doc/${name}/${paper})
     endforeach()
+    foreach(pattern ${expect_FILES})
+        set(others ${files})
+        list(FILTER others EXCLUDE REGEX "^(${pattern})$")
+        if(others STREQUAL files)
+            message(FATAL_ERROR "${name} holds nothing like ${pattern}")
+        endif()
+        set(files ${others})
+    endforeach()
+    if(files)
+        message(FATAL_ERROR "${name} holds ${files}")
+    endif()
     set(checked ${checked} ${package} PARENT_SCOPE)
 endfunction()
 
@@ -45,13 +53,22 @@ string(REPLACE "." "\\." version ${ORVANE_VERSION})
 set(same_library "liborvanecontrols1 \\(= ${version}-1\\)")
 check_package(liborvanecontrols1
     DEPENDS libc6 libstdc\\+\\+6 libqt5core5a libqt5gui5 libqt5widgets5
-    FILES "${LIBDIR}/liborvanecontrols\\.so\\.(1|${version})")
+    FILES "${LIBDIR}/liborvanecontrols\\.so\\.1" "${LIBDIR}/liborvanecontrols\\.so\\.${version}")
+step(dpkg-deb --info ${PACKAGE_DIR}/liborvanecontrols1_${ORVANE_VERSION}-1_${architecture}.deb triggers)
+if(NOT output MATCHES "activate-noawait ldconfig")
+    message(FATAL_ERROR "liborvanecontrols1 does not ask for ldconfig")
+endif()
 check_package(liborvanecontrols-dev
     DEPENDS ${same_library} qtbase5-dev
-    FILES "include/orvanecontrols/[a-z]+\\.h|${LIBDIR}/(liborvanecontrols\\.so|.*\\.(cmake|pc|prf))")
+    FILES "include/orvanecontrols/[a-z]+\\.h" "${LIBDIR}/liborvanecontrols\\.so"
+        "${LIBDIR}/cmake/OrvaneControls/.*\\.cmake" "${LIBDIR}/pkgconfig/orvanecontrols\\.pc"
+        "${LIBDIR}/qt5/mkspecs/features/orvanecontrols\\.prf"
+        "share/lintian/overrides/liborvanecontrols-dev")
 check_package(orvane-tools
     DEPENDS ${same_library} libc6 libqt5core5a libqt5gui5 libqt5widgets5
-    FILES "bin/orvane-(wall|gallery)")
+    FILES "bin/orvane-wall" "bin/orvane-gallery" "share/man/man1/orvane-wall\\.1\\.gz"
+        "share/man/man1/orvane-gallery\\.1\\.gz" "share/applications/orvane-wall\\.desktop"
+        "share/icons/hicolor/scalable/apps/orvane-wall\\.svg")
 check_package(liborvanecontrols-designer
     DEPENDS ${same_library} libc6 libqt5core5a libqt5gui5
     FILES "${LIBDIR}/qt5/plugins/designer/liborvanecontrolsdesigner\\.so")

@@ -258,8 +258,8 @@ Entry offlinePortItemContentFrame()
         .act(
             "addPortItem",
             [](Life &life, OfflinePortItemContentFrame *subject) {
-                // The contract asks for 1 or more.
-                const int count = life.dice().between(1, 20);
+                // A frame for each: no more than can be paid for.
+                const int count = life.dice().between(-2, 20);
                 protocol::note(toText(count));
                 subject->addPortItem(count, life.value<ItemType>());
             },

@@ -22,6 +22,8 @@ bool isExcluded(const QVector<QByteArray> &classNames, const QByteArray &member)
 bool isKeptInSignal(const QVector<QByteArray> &classNames, const QByteArray &signal);
 /// Public classes and records that have no entry of their own.
 const QVector<Exclusion> &classesWithoutEntry();
+/// All that is left out, in one list.
+QVector<Exclusion> allExclusions();
 /// Whether Qt may say \a warning.
 bool isExpected(const QString &warning);
 

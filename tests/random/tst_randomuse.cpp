@@ -246,8 +246,8 @@ struct Options {
 
 void live(const Entry &entry, const Options &options, int steps)
 {
-    const QByteArray again = "tst_randomuse --class " + entry.className + " --seed "
-        + QByteArray::number(options.seed) + " --life ";
+    const QByteArray again = QCoreApplication::applicationFilePath().toLocal8Bit() + " --class "
+        + entry.className + " --seed " + QByteArray::number(options.seed) + " --life ";
     int life = options.life >= 0 ? options.life : 0;
     const int firstLife = life;
     while (steps > 0) {
@@ -281,6 +281,14 @@ void list(const QVector<Entry> &entries)
     }
     for (const Exclusion &exclusion : classesWithoutEntry())
         out << exclusion.className << '\n';
+}
+
+/// A line for each thing that is left out: class, function and reason.
+void listExclusions()
+{
+    QTextStream out(stdout);
+    for (const Exclusion &exclusion : allExclusions())
+        out << exclusion.className << ' ' << exclusion.member << ": " << exclusion.reason << '\n';
 }
 
 Options readOptions(QCommandLineParser &parser)
@@ -321,6 +329,7 @@ int main(int argc, char **argv)
         {"life", "Live this life of the class alone.", "number"},
         {"replay", "Print each step when it begins."},
         {"list", "Print what is called, and take no steps."},
+        {"excluded", "Print what is left out and why, and take no steps."},
         {"fault", "What the class Faulty does at last: warn, abort, crash, grow, hang.", "name"},
         {"patience", "After how many seconds a step counts as hanging.", "number"},
     });
@@ -328,6 +337,10 @@ int main(int argc, char **argv)
     const QVector<Entry> entries = allEntries();
     if (parser.isSet("list")) {
         list(entries);
+        return 0;
+    }
+    if (parser.isSet("excluded")) {
+        listExclusions();
         return 0;
     }
     const Options options = readOptions(parser);

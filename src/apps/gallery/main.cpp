@@ -40,7 +40,8 @@ Request readCommandLine(int argc, char **argv)
     parser.setApplicationDescription(
         "Shows every widget of OrvaneControls in its looks and states, with controls for its "
         "setters.");
-    const QCommandLineOption helpOption = parser.addHelpOption();
+    // Not addHelpOption(), which also adds one for options of Qt that are not read here.
+    const QCommandLineOption helpOption({"h", "help"}, "Displays this help.");
     const QCommandLineOption versionOption = parser.addVersionOption();
     const QCommandLineOption listOption("list", "Lists the pages, one name a line.");
     const QCommandLineOption pageOption("page", "Opens at that page, or renders only that one.",
@@ -49,7 +50,7 @@ Request readCommandLine(int argc, char **argv)
         "render", "Renders the pages to PNG files in that folder. Needs no display.", "folder");
     const QCommandLineOption mirrorOption(
         "rtl", "Lays everything out from right to left, as Arabic and Hebrew are read.");
-    parser.addOptions({listOption, pageOption, renderOption, mirrorOption});
+    parser.addOptions({helpOption, listOption, pageOption, renderOption, mirrorOption});
 
     if (!parser.parse(QCoreApplication::arguments()))
         return fail(parser.errorText());

@@ -47,7 +47,8 @@ Request readCommandLine(int argc, char **argv)
     QCommandLineParser parser;
     parser.setApplicationDescription("Lays out the cabinets of an LED wall on the ports of its "
                                      "senders.");
-    const QCommandLineOption helpOption = parser.addHelpOption();
+    // Not addHelpOption(), which also adds one for options of Qt that are not read here.
+    const QCommandLineOption helpOption({"h", "help"}, "Displays this help.");
     const QCommandLineOption versionOption = parser.addVersionOption();
     const QCommandLineOption demoOption("demo", "Opens the demo project.");
     const QCommandLineOption pageOption("page",
@@ -58,7 +59,7 @@ Request readCommandLine(int argc, char **argv)
         "generate", "Writes a project of so many cabinets to FILE, and opens no window.", "count");
     const QCommandLineOption renderOption(
         "render", "Renders the pages to PNG files in that folder. Needs no display.", "folder");
-    parser.addOptions({demoOption, pageOption, generateOption, renderOption});
+    parser.addOptions({helpOption, demoOption, pageOption, generateOption, renderOption});
     parser.addPositionalArgument("FILE", "The project file to open or to generate.", "[FILE]");
 
     if (!parser.parse(QCoreApplication::arguments()))

@@ -23,7 +23,7 @@ class ButtonGroupEx;
  * Before the row stand a button that adds cabinets and one that adds a row of cabinets, below it
  * the title. The arrows show only when the row is wider than its window; an empty label keeps the
  * place of a hidden arrow. Like WidgetWithScrollEx, the strip scrolls on from its own record of the
- * position.
+ * position. It may be deleted in its own signals.
  *
  * The arrows and the add-row button have no pictures of their own. A host gives them some in its
  * application's style sheet, by the properties that they carry:
@@ -43,7 +43,8 @@ public:
     explicit ButtonGroupEx(QWidget *parent = nullptr);
     ~ButtonGroupEx() override;
 
-    /// Creates the arrows and their placeholders. The constructor calls it.
+    /// Creates the arrows and their placeholders. The constructor calls it; another call of it, or
+    /// of the two functions below, lays new buttons over those that are there.
     void createScrollBtn();
     /// Creates the button that adds cabinets. The constructor calls it.
     void createAddCabnicateBtn();
@@ -72,9 +73,10 @@ public:
     /// Enables or disables the buttons, the title, the arrows and the content, if there is any.
     void setFrameIsEnabled(bool b);
 
-    /// The width of the window that the content is seen through.
+    /// The width in pixels of the window that the content is seen through.
     int getScrollAreaWidth();
-    /// Whether the content was wider, when it was added, than the window is now.
+    /// Whether the content was wider, when it was added, than the window is now; false without
+    /// content.
     bool isWidthBigThanScrollWidth();
 
 Q_SIGNALS:
@@ -91,7 +93,7 @@ Q_SIGNALS:
     void signal_addRowCabinetsClicked();
 
 public Q_SLOTS:
-    /// Takes note of the range that the arrows scroll in; the content's scroll bar reports it.
+    /// Takes note of the range in pixels that the arrows scroll in; its scroll bar reports it.
     void on_getScrollerRange(int min, int max);
     /// Scrolls a step to the left and brings the right arrow; the last step hides the left one.
     void on_leftClicked();

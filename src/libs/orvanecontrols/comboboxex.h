@@ -54,7 +54,7 @@ public:
     /// \see setNormalAndDisabledPixMap()
     void setComboxEnabled(bool enabled);
     /// Stores the pictures of the enabled and the disabled box; the one of the present state
-    /// becomes the default pixmap. \see setDefaultPixMap()
+    /// becomes the default pixmap. A null one shows nothing. \see setDefaultPixMap()
     void setNormalAndDisabledPixMap(QPixmap normal, QPixmap disabled);
 
     /// The text of row \a index in image mode; empty when there is no such row.
@@ -142,8 +142,8 @@ public:
     QListWidget *getPListWidget() const;
     /// The text of the row last chosen or set, empty before.
     QString getText() const;
-    /// Replaces the items that rows are looked up in; clear() deletes them.
-    /// \see getWidgetItemList()
+    /// Replaces the items that rows are looked up in; they stay their lists' own, but clear()
+    /// deletes them. A null one counts as a row that does not exist. \see getWidgetItemList()
     void setWidgetItemList(const QList<QListWidgetItem *> &items);
     /// The items of the image rows, in their order. \see setWidgetItemList()
     QList<QListWidgetItem *> getWidgetItemList() const;
@@ -158,7 +158,8 @@ public:
     QString fromColorToStr(QColor color);
 
 Q_SIGNALS:
-    /// In image mode: row \a index was chosen by the user or set by setCurrentIndex().
+    /// In image mode: row \a index was chosen by the user or set by setCurrentIndex(). The box may
+    /// be deleted here.
     void signal_clickedItem(int index);
 
 protected:

@@ -23,8 +23,9 @@ class ORVANECONTROLS_EXPORT ComboboxItem : public QWidget
     Q_OBJECT
 
 public:
-    /// Builds the row with number \a index, showing \a pixmap at its own size and \a text. A text
-    /// wider than the new row's text label is elided and becomes its tool tip.
+    /// Builds the row, owned by \a parent, with number \a index, showing \a pixmap at its own size,
+    /// nothing if it is null, and \a text. A text wider than the new row's text label is elided and
+    /// becomes its tool tip.
     ComboboxItem(QWidget *parent, QPixmap pixmap, QString text, int index);
 
     /// Applies the font colour to the text label.
@@ -46,7 +47,7 @@ public:
     /// The pixmap that showContent() hands out. \see setPixMap()
     QPixmap pixMap() const;
 
-    /// Sets the row number that showContent() hands out. \see index()
+    /// Sets the row number, any number, that showContent() hands out. \see index()
     void setIndex(int index);
     /// The row number. \see setIndex()
     int index() const;

@@ -58,8 +58,9 @@ public:
                            QString okText, QString cancelText);
     /// Shows or hides the close button in the title (hidden at first).
     void setCloseBtnIsVisible(bool isVisible);
-    /// Gives the apply button a fixed size in pixels (default 64 by 30). Call it before
-    /// setBoxInformation(), which elides the text to the button.
+    /// Gives the apply button a fixed size in pixels (default 64 by 30); a size that no widget can
+    /// have becomes the nearest one. Call it before setBoxInformation(), which elides the text to
+    /// the button.
     void setAppltBtnSize(int w, int h);
     /// The same for the OK button.
     void setOkBtnSize(int w, int h);

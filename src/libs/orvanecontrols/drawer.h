@@ -31,7 +31,8 @@ public:
     ~Drawer() override;
 
     /// Adds \a item, which the drawer owns from now on, below the others. A null pointer is
-    /// ignored.
+    /// ignored. Add an item once: it stands in the list, and answers a click, as often as it is
+    /// added.
     void addDrawerItem(DrawerItem *item);
     /// Removes the item at \a index and schedules its deletion. An index outside the list is
     /// ignored.
@@ -43,27 +44,28 @@ public:
     void clearDrawerItems();
 
     /// Expands \a item, or collapses it if it is expanded, and collapses all others. For an item
-    /// that is not in the list it only collapses the others.
+    /// that is not in the list, or null, it only collapses the others.
     void setDrawerItemContentShow(DrawerItem *item);
     /// Expands and selects the item at \a index, and collapses and deselects all others. With an
     /// index outside the list no item is selected. \see getSelectItem()
     void setSelectItemByIndex(int index);
     /// The index of the selected item, -1 if there is none. \see setSelectItemByIndex()
     int getSelectItem();
-    /// The index of \a item, -1 if it is not in the list.
+    /// The index of \a item, -1 if it is null or not in the list.
     int getItemIndexByDrawerItem(DrawerItem *item);
 
     /// The items from top to bottom, without deleted ones. \see setDrawerItemList()
     QList<DrawerItem *> drawerItemList() const;
-    /// Replaces the list of items; no layout and no connection changes. \see drawerItemList()
+    /// Replaces the list of items, without null pointers; no layout, no connection and no owner
+    /// changes. \see drawerItemList()
     void setDrawerItemList(const QList<DrawerItem *> &items);
 
-    /// The layout that new items are added to. \see setPVBoxlayout()
+    /// The layout that new items are added to, null if there is none. \see setPVBoxlayout()
     QVBoxLayout *pVBoxlayout() const;
-    /// Puts \a layout in the place of pVBoxlayout(); it is not installed. It should stand in a
-    /// widget: like any layout of Qt's, one that stands in none is not told when its items are
-    /// deleted. Without a layout new items keep their parent. The drawer deletes the layout that it
-    /// has when it is destroyed.
+    /// Puts \a layout, null for none, in the place of pVBoxlayout(); it is not installed. It should
+    /// stand in a widget: like any layout of Qt's, one that stands in none is not told when its
+    /// items are deleted. Without a layout new items keep their parent. The drawer deletes the
+    /// layout that it has when it is destroyed.
     void setPVBoxlayout(QVBoxLayout *layout);
 
 Q_SIGNALS:
@@ -72,8 +74,8 @@ Q_SIGNALS:
     void signal_notifyItem(DrawerItem *item);
 
 public Q_SLOTS:
-    /// What a click on the header of \a item does: setDrawerItemContentShow() and
-    /// signal_notifyItem().
+    /// What a click on the header of \a item does: setDrawerItemContentShow() and, if the item
+    /// still exists, signal_notifyItem(). A null pointer is handed on.
     void on_notifyIsShrink(DrawerItem *item);
 
 private:

@@ -42,16 +42,18 @@ public:
     ~DrawerItem() override;
 
     /// Makes \a w the body in the scroll area, which owns it from now on; the body so far is
-    /// deleted. Size \a w first. \see getItem()
+    /// deleted. Size \a w first. A null pointer is ignored. \see getItem()
     void addItem(QWidget *w);
     /// The body, null if there is none. \see addItem()
     QWidget *getItem();
     /// Deletes the body at once, if there is one.
     void removeItem();
-    /// Fixes the height of the scroll area.
+    /// Fixes the height of the scroll area in pixels; a negative one counts as 0.
     void setScrollAreaHeight(int height);
-    /// Adds \a w, hidden, below the scroll area, to be shown in its place. It takes effect together
-    /// with setBVisibleScrolArea(false). \see widgetContent()
+    /// Adds \a w, which the item owns from now on, hidden below the scroll area, to be shown in its
+    /// place. It takes effect together with setBVisibleScrolArea(false). An earlier content widget
+    /// stays where it is, and is not shown or hidden any more; so it does with a null pointer,
+    /// after which there is none. \see widgetContent()
     void addContentWidget(QWidget *w);
     /// The content widget, null if there is none. \see addContentWidget()
     QWidget *widgetContent();
@@ -113,10 +115,10 @@ public:
     void setBVisibleScrolArea(bool visible);
     /// Whether the scroll area is what expanding shows. \see setBVisibleScrolArea()
     bool getBVisibleScrolArea();
-    /// Puts \a area in the place of scrollArea(); no layout changes. The item schedules the
-    /// deletion of the area that it has when it is destroyed.
+    /// Puts \a area, null for none, in the place of scrollArea(); no layout and no parent changes.
+    /// The item schedules the deletion of the area that it has when it is destroyed.
     void setScrollArea(QScrollArea *area);
-    /// The scroll area. \see setScrollArea()
+    /// The scroll area, null if there is none or it is gone. \see setScrollArea()
     QScrollArea *scrollArea();
 
     /// Keeps a number for the host (default -1). \see getSenderIndex()
@@ -155,7 +157,7 @@ Q_SIGNALS:
     void signal_ItemContentPortItemPressed(DrawerItem *item, RowLineItem *rowItem);
     /// The button of \a portItem in the body of \a item went down.
     void signal_offlineItemContentPortItemPressed(DrawerItem *item, OfflinePortItemFrame *portItem);
-    /// The body of \a item reported a change with \a index.
+    /// The body of \a item, connected by the host, reported a change with \a index, any number.
     void signal_drawItemContentStateChandged(DrawerItem *item, int index);
     /// The check-all box was checked or unchecked, by a click or by setCheckAllIsCheck().
     void signal_checkAllItemContent(DrawerItem *item, bool isCheckAll);

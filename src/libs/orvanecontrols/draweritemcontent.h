@@ -29,19 +29,20 @@ public:
     explicit DrawerItemContent(QWidget *parent = nullptr);
     ~DrawerItemContent() override;
 
-    /// Adds a row for the port \a portIndex of \a type with \a cabinets at the bottom and fixes the
-    /// height of the body to that of all rows.
+    /// Adds a row, which the body owns, for the port \a portIndex of \a type with \a cabinets at
+    /// the bottom and fixes the height of the body to that of all rows. Any number, type and record
+    /// is taken as RowLineItem::setLineItemType() and RowLineItem::AddLineItem() do.
     void addRowLineItem(int portIndex, ItemType type, QList<StructCabinet> cabinets);
 
     /// The rows from top to bottom, without deleted ones. \see setLsRowLineItems()
     QList<RowLineItem *> lsRowLineItems() const;
-    /// Replaces the list that lsRowLineItems() returns; no row changes. The body schedules the
-    /// deletion of all rows of its list when it is destroyed, whoever made them.
+    /// Replaces the list that lsRowLineItems() returns, without null pointers; no row changes. The
+    /// body schedules the deletion of all rows of its list when it is destroyed, whoever made them.
     void setLsRowLineItems(const QList<RowLineItem *> &rows);
 
     /// A counter, 0 at first, to which every new row adds 1. \see setIndex()
     int index() const;
-    /// Sets the counter. \see index()
+    /// Sets the counter to any number. \see index()
     void setIndex(int index);
 
     /// Does nothing; the body has no tool tip of its own.

@@ -39,7 +39,8 @@ public:
 
     /// The boxes in display order, without deleted ones. \see setLsCheckbox()
     QList<CheckBoxEx *> lsCheckbox() const;
-    /// Replaces the list of boxes; no widget changes. \see lsCheckbox()
+    /// Replaces the list of boxes; null pointers are left out. No widget changes, and the boxes
+    /// keep their owners. \see lsCheckbox()
     void setLsCheckbox(const QList<CheckBoxEx *> &boxes);
 
 Q_SIGNALS:

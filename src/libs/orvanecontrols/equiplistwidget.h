@@ -49,7 +49,8 @@ public:
     /// Sets the text over the list while it is being refreshed (default none).
     void setRefLabelText(QString text);
 
-    /// Appends a row of \a texts and returns it. The list owns it; \a flag is handed to the row.
+    /// Appends a row of \a texts and returns it, null once a host has deleted the list. The list
+    /// owns it; \a flag is handed to the row.
     CustomListWidgetMulItem *addCustomItem(QStringList texts, bool flag);
     /// Removes the row at \a index; an index outside the list is ignored. Its widget stays in
     /// getItems() until the event loop deletes it.
@@ -78,13 +79,13 @@ public Q_SLOTS:
     /// Shows the list, or folds it. What the next click on the drop-down button reports does not
     /// change.
     void slot_ShowList(bool bShowList);
-    /// Covers the list with the refresh animation.
+    /// Covers the list with the refresh animation, which runs until slot_StopRefAnimation().
     void slot_ShowRefAnimation();
     /// Uncovers the list; does nothing when the animation is not running.
     void slot_StopRefAnimation();
-    /// Emits signal_itemDoubleClicked().
+    /// Emits signal_itemDoubleClicked() with \a item, null too.
     void slot_deviceItemDoubleClicked(CustomListWidgetMulItem *item);
-    /// Emits signal_everySetting().
+    /// Emits signal_everySetting() with \a item, null too.
     void slot_emitSettingData(CustomListWidgetMulItem *item);
 
 protected:

@@ -20,7 +20,8 @@ enum LineEditType : int {
  *
  * With a warning text set, typing one of / \ : < | " * > ? shows that text as a tool tip at the
  * text cursor for three seconds; the character is typed all the same. The appearance setters
- * recompose the framed look's sheet at once. All else is QLineEdit's, its signals included.
+ * recompose the framed look's sheet at once. Sizes are pixels; any value is written into the sheet
+ * as it is. All else is QLineEdit's, its signals included.
  */
 class ORVANECONTROLS_EXPORT LineEditEx : public QLineEdit
 {

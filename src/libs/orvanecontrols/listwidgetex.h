@@ -34,7 +34,7 @@ public:
     void deleteItem(int index);
     /// Removes all rows.
     void clearAllItems();
-    /// The row that \a item is in, -1 if it is in none.
+    /// The row that \a item is in, -1 if it is in none or null.
     int getItemIndex(CustomListWidgetItem *item) const;
 
     /// Sets the background (default 245,245,245). \see bgNormalColor()
@@ -69,7 +69,7 @@ Q_SIGNALS:
     void signal_HideShow(bool isHide);
 
 public Q_SLOTS:
-    /// Emits signal_notifyProjectPath().
+    /// Emits signal_notifyProjectPath() with \a item, null too, and \a path.
     void slot_notifyProjectPath(CustomListWidgetItem *item, QString path);
     /// Emits signal_notifydeleteItem() with the row that \a item is in, -1 if it is in none.
     void slot_notifyDeleteItem(CustomListWidgetItem *item);

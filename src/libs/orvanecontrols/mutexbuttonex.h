@@ -15,7 +15,8 @@ class ToolButtonEx;
  *
  * The buttons lie side by side at fixed places, in the order in which they are added. Width, height
  * and gap hold for the buttons that are added after they are set. The strip has no signals of its
- * own: connect to the buttons.
+ * own: connect to the buttons. Any number is taken as a length; places and sizes that no widget can
+ * have become the nearest ones.
  */
 class ORVANECONTROLS_EXPORT MutexButtonEx : public QFrame
 {

@@ -33,7 +33,8 @@ public:
     /// Sets how wide the tabs are. With TabBarRd::TabsOfEqualWidth the bar also takes all the width
     /// that the places leave, and keeps doing so under another type. \see getTabBarType()
     void setTabBarType(TabBarRd::TabBarType type);
-    /// Sets the minimum width of the bar in pixels. \see getTabMinWidth()
+    /// Sets the minimum width of the bar in pixels; a negative one counts as 0.
+    /// \see getTabMinWidth()
     void setTabMinWidth(int width);
     /// Sets the maximum width of the bar in pixels; a negative one is ignored.
     /// \see getTabMaxWidth()
@@ -47,11 +48,12 @@ public:
     /// The bar itself, which the row owns.
     TabBarRd *getTabBar() const;
 
-    /// Gives the row a fixed size in pixels.
+    /// Gives the row a fixed size in pixels; a negative one counts as 0.
     void setWidgetFixedSize(int width, int height);
     /// Keeps a colour; nothing is painted with it.
     void setWidgetColor(QColor color);
-    /// Sets the gap between the widgets at the left in pixels.
+    /// Sets the gap between the widgets at the left in pixels. Here and in the two functions below
+    /// a negative one stands for the style's.
     void setLeftHLayoutSpace(int space);
     /// Sets the gap between the widgets at the right in pixels.
     void setRightHLayoutSpace(int space);

@@ -46,6 +46,7 @@ public:
 
     /// Sets the text of the tab at \a index. When the tab, without its close button, is narrower
     /// than the text at this time, the text becomes its tool tip too; otherwise the tool tip goes.
+    /// An index without a tab is ignored.
     void setTabText(int index, const QString &text);
     /// Shows the page at \a index. An index without a tab is ignored.
     void setCurrentIndex(int index);
@@ -56,14 +57,15 @@ public:
 
     /// Sets how wide the tabs are, see NQTabBar::setTabBarType(). \see getTabBarType()
     void setTabBarType(TabBarRd::TabBarType type);
-    /// Sets the minimum width of the bar in pixels. \see getTabMinWidth()
+    /// Sets the minimum width of the bar in pixels; a negative one counts as 0.
+    /// \see getTabMinWidth()
     void setTabMinWidth(int width);
     /// Sets the maximum width of the bar in pixels; a negative one is ignored. The next resize sets
     /// it to the width of the widget. \see getTabMaxWidth()
     void setTabMaxWidth(int width);
     /// Sets the ground of those pages that are a QWidget and no subclass (default white).
     void setStackedWidgetColor(QColor color);
-    /// Gives the widget a fixed size in pixels.
+    /// Gives the widget a fixed size in pixels; a negative one counts as 0.
     void setWidgetSize(int width, int height);
 
     /// The stack of pages, which the widget owns.
@@ -131,9 +133,10 @@ public:
     QString fromColorToStr(QColor color);
 
 public Q_SLOTS:
-    /// Shows the page at \a index; the bar stays as it is.
+    /// Shows the page at \a index; the bar stays as it is. An index without a page is ignored.
     void slot_currentShow(int index);
-    /// Removes the tab at \a index and its page, unless it is the last one.
+    /// Removes the tab at \a index and its page, unless it is the last one. An index without a tab
+    /// is ignored.
     void slot_tabCloseRequested(int index);
 
 protected:

@@ -58,18 +58,21 @@ public:
     /// The caption, with its "..." when it was cut. \see setStrDownText()
     QString strDownText() const;
 
-    /// Sets the pictures of the enabled and of the disabled button, and shows the one of the
-    /// present state and the caption in its colour. Only with a picture above a caption.
+    /// Sets the pictures of the enabled and of the disabled button by their paths, files or
+    /// resources, and shows the one of the present state and the caption in its colour. Only with a
+    /// picture above a caption. Here and in the two functions below a path without a picture shows
+    /// none.
     void setUpLabelImg(QString normalPath, QString disabledPath);
     /// Enables or disables the button; picture and caption follow, which they do not after
     /// setEnabled().
     void setBtnEnabled(bool enabled);
-    /// Sets the picture at the left of two.
+    /// Sets the picture at the left of two; nothing happens in the other arrangement.
     void setLeftLabelImg(QString path);
-    /// Sets the picture at the right of two.
+    /// Sets the picture at the right of two; nothing happens in the other arrangement.
     void setRightLabelImg(QString path);
 
-    /// Gives the picture above the caption a fixed size (default 50 by 42).
+    /// Gives the picture above the caption a fixed size (default 50 by 42). This and the next two
+    /// do nothing in the other arrangement.
     void setUpLabelSize(int width, int height);
     /// Gives the caption a fixed size.
     void setDownLabelSize(int width, int height);
@@ -93,7 +96,8 @@ public:
     /// Sets the radius of the corners (default 5). On two pictures it is only stored.
     void setTopToBottomBorderRadius(int radius);
 
-    /// Sets the gap between picture and caption (default 6).
+    /// Sets the gap between picture and caption (default 6); a negative one stands for the style's.
+    /// Only with a picture above a caption, as the margins.
     void setTopToBottomBtnVlayoutSpace(int space);
     /// Sets the margins around picture and caption (default 0, 3, 0, 7).
     void setTopToBottomBtnVlayoutMargins(int left, int top, int right, int bottom);

@@ -33,15 +33,16 @@ public:
     explicit OfflinePortItemContentFrame(QWidget *parent = nullptr);
     ~OfflinePortItemContentFrame() override;
 
-    /// Adds frames for the ports 1 to \a count, which has to be 1 or more, and fixes the size of
-    /// the grid to hold them. Meant to be called once: the frames of a second call lie over those
-    /// of the first.
+    /// Adds frames for the ports 1 to \a count and fixes the size of the grid to hold them. With a
+    /// count below 1 nothing happens. Meant to be called once: the frames of a second call lie over
+    /// those of the first.
     void addPortItem(int count, ItemType type);
 
     /// The frames in the order in which they were added, without deleted ones.
     /// \see setLsOfflinePortItems()
     QList<OfflinePortItemFrame *> lsOfflinePortItems() const;
-    /// Replaces the list that lsOfflinePortItems() returns; no frame changes.
+    /// Replaces the list that lsOfflinePortItems() returns, without null pointers; no frame changes
+    /// and none is taken over.
     void setLsOfflinePortItems(const QList<OfflinePortItemFrame *> &items);
 
 Q_SIGNALS:

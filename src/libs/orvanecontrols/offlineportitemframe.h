@@ -30,8 +30,8 @@ public:
     explicit OfflinePortItemFrame(QWidget *parent = nullptr);
     ~OfflinePortItemFrame() override;
 
-    /// Sets the port's number, which the label shows from now on, and its type, and shows the
-    /// pictures of the released or the disabled button. \see portIndex()
+    /// Sets the port's number, any number, which the label shows from now on, and its type, and
+    /// shows the pictures of the released or the disabled button. \see portIndex()
     void setLineItemType(int portIndex, ItemType type);
     /// Shows the picture of the pressed button, if the button is enabled.
     void setItemPressed();
@@ -42,7 +42,8 @@ public:
     /// Whether the button is enabled.
     bool getItemIsEnabled();
 
-    /// Makes the label show \a i + 1, and nothing else: portIndex() and the pictures stay.
+    /// Makes the label show \a i + 1, for any number, and nothing else: portIndex() and the
+    /// pictures stay.
     void setPortIndex(int i);
     /// The port's number, -1 until set. \see setLineItemType()
     int portIndex() const;

@@ -34,11 +34,13 @@ public:
     explicit RowLineItem(QWidget *parent = nullptr);
     ~RowLineItem() override;
 
-    /// Sets the port's number, which the label shows from now on, and its type, and shows the
-    /// pictures of the released or the disabled port button. \see portIndex()
+    /// Sets the port's number, any number, which the label shows from now on, and its type, and
+    /// shows the pictures of the released or the disabled port button. \see portIndex()
     void setLineItemType(int portIndex, ItemType type);
-    /// Adds a cabinet button for \a info at the right end of the strip. It becomes visible with
-    /// addScrollWidget().
+    /// Adds a cabinet button for \a info, owned by the row, at the right end of the strip. It
+    /// becomes visible with addScrollWidget(). A side of the cabinet outside 1 to 65536 is drawn as
+    /// the nearest of them, and a button whose count is not above 0 is disabled; the record keeps
+    /// both.
     void AddLineItem(StructCabinet info);
     /// Puts the cabinets into the strip and shows it. Call it once, when they have been added.
     void addScrollWidget();
@@ -59,14 +61,15 @@ public:
 
     /// The port's number, -1 until set. \see setPortIndex()
     int portIndex() const;
-    /// Sets the port's number. The label keeps its text, and the port button its pictures until
-    /// their next change. \see setLineItemType()
+    /// Sets the port's number, any number. The label keeps its text, and the port button its
+    /// pictures until their next change. \see setLineItemType()
     void setPortIndex(int portIndex);
 
     /// The cabinet buttons from left to right, without deleted ones. \see setCabinetButtonList()
     QList<ToolButtonEx *> cabinetButtonList() const;
-    /// Replaces the list that cabinetButtonList() returns; no button changes. The row schedules the
-    /// deletion of all buttons of its list when it is destroyed, whoever made them.
+    /// Replaces the list that cabinetButtonList() returns, without null pointers; no button
+    /// changes. The row schedules the deletion of all buttons of its list when it is destroyed,
+    /// whoever made them.
     void setCabinetButtonList(const QList<ToolButtonEx *> &buttons);
 
 Q_SIGNALS:

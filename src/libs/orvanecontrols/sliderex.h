@@ -74,7 +74,8 @@ public:
     /// Lets the mouse wheel move the slider (default false).
     void setWheelEventEffective(bool effective);
 
-    /// Swallows wheel events unless setWheelEventEffective() lets them through.
+    /// Swallows wheel events, of the slider itself and of whatever else it was made to watch,
+    /// unless setWheelEventEffective() lets them through. Every other event goes on.
     bool eventFilter(QObject *watched, QEvent *event) override;
 
     /// The text of a colour in a sheet: "#rrggbb", "#aarrggbb" when translucent, "#000000" when
@@ -82,7 +83,8 @@ public:
     QString fromColorToStr(QColor color);
 
 Q_SIGNALS:
-    /// A mouse button was released on the slider, which has not acted on it yet.
+    /// A mouse button was released on the slider, which has not acted on it yet and may be deleted
+    /// here.
     void sliderMouseRealse();
 
 protected:

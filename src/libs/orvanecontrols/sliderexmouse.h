@@ -26,7 +26,7 @@ public:
     SliderExMouse(QWidget *parent, Qt::Orientation orientation);
 
 Q_SIGNALS:
-    /// A release of the left button has set a new value.
+    /// A release of the left button has set a new value. The slider may be deleted here.
     void sliderMouseRealse(); // clazy:exclude=overridden-signal
 
 protected:

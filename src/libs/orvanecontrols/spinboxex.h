@@ -78,7 +78,7 @@ public:
 
 Q_SIGNALS:
     /// A mouse click on the box has ended; \a direction is +1 when it raised the value and -1 when
-    /// it lowered it or left it unchanged.
+    /// it lowered it or left it unchanged. The box may be deleted here.
     void signal_valueChanged(int direction);
 
 protected:

@@ -12,12 +12,12 @@
  * are fixed: the record crosses between separately built modules, and a drag carries its bytes.
  *
  * The size and the texts have defaults; the numbers have none on purpose, so whoever makes a record
- * fills every one of them. The extra fields are the host's own; the library only carries them.
- * Weight, power and voltage are in the host's units.
+ * fills every one of them. The library shows size and count. It only carries all else, in whatever
+ * unit the host has; the extra fields are the host's own.
  */
 struct StructCabinet {
     QSize cabinetSize; ///< Width and height of the model in pixels of the wall.
-    int cabinetCount; ///< How many are on hand.
+    int cabinetCount; ///< How many are on hand. A negative number leaves a button its count.
     QString extraText1; ///< The host's own.
     QString extraText2; ///< The host's own.
     int extraValue1; ///< The host's own.
@@ -29,12 +29,12 @@ struct StructCabinet {
     QString extraText4; ///< The host's own.
     int extraValue6; ///< The host's own.
     int extraValue7; ///< The host's own.
-    int cabinetweight; ///< Weight of the model.
-    float cabinetpower; ///< Power of the model.
-    float cabinetVoltage; ///< Voltage of the model.
-    int cabinetuisize; ///< Width at which the host's layout view draws the model.
-    int cabinetuiHsize; ///< Height at which the host's layout view draws the model.
-    int cabinetPointspace; ///< Pixel pitch of the model.
+    int cabinetweight; ///< Weight of the model, in the host's unit.
+    float cabinetpower; ///< Power of the model, in the host's unit.
+    float cabinetVoltage; ///< Voltage of the model, in the host's unit.
+    int cabinetuisize; ///< Width in pixels at which the host's layout view draws the model.
+    int cabinetuiHsize; ///< Height in pixels at which the host's layout view draws the model.
+    int cabinetPointspace; ///< Pixel pitch of the model, in the host's unit.
 };
 
 static_assert(sizeof(StructCabinet) == (sizeof(void *) == 8 ? 104 : 80),

@@ -25,9 +25,9 @@ class HeldSheets;
  * \code
  * {
  *     StyleSheetBatch batch(checkBox);
- *     checkBox->setNormalFontColor(Qt::white);
- *     checkBox->setHoverFontColor(Qt::yellow);
+ *     checkBox->setFontColor(Qt::white);
  *     checkBox->setDisabledFontColor(Qt::gray);
+ *     checkBox->setIndicatorWidth(20);
  * } // the widget is styled here
  * \endcode
  *

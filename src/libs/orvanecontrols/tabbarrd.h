@@ -28,10 +28,11 @@ public:
     /// Sets how wide the tabs are. The bar lays them out anew when it is next resized or its tabs
     /// change. \see getTabBarType()
     void setTabBarType(TabBarType type);
-    /// Sets the minimum width of the bar, not of a tab, in pixels (default 0).
-    /// \see getTabMinWidth()
+    /// Sets the minimum width of the bar, not of a tab, in pixels (default 0). A negative one
+    /// counts as 0. \see getTabMinWidth()
     void setTabMinWidth(int width);
-    /// Sets the maximum width of the bar, not of a tab, in pixels. \see getTabMaxWidth()
+    /// Sets the maximum width of the bar, not of a tab, in pixels. A negative one counts as 0.
+    /// \see getTabMaxWidth()
     void setTabMaxWidth(int width);
 
     /// How wide the tabs are. \see setTabBarType()

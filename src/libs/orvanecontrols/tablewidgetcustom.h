@@ -52,12 +52,14 @@ public:
 
     /// How many rows are filled. \see setTableRowCount()
     int TableRowCount() const;
-    /// Sets how many rows are filled; the table has those of construction. \see TableRowCount()
+    /// Sets how many rows are filled, any number; the table has those of construction.
+    /// \see TableRowCount()
     void setTableRowCount(int rowCount);
 
     /// The number of columns. \see setTableColumnCount()
     int TableColumnCount() const;
-    /// Keeps a number of columns; the table has those of construction. \see TableColumnCount()
+    /// Keeps a number of columns, any number; the table has those of construction.
+    /// \see TableColumnCount()
     void setTableColumnCount(int columnCount);
 
     /// Centres the texts of all cells within TableRowCount() and TableColumnCount().

@@ -58,9 +58,11 @@ public:
 
     /// QTabWidget::setTabsClosable(). The room for texts in setTabText() stays that of the kind.
     void setTabsClosable(bool closable);
-    /// QTabWidget::setCornerWidget().
+    /// QTabWidget::setCornerWidget(): \a widget, which this one owns from now on, stands in that
+    /// corner, null for none. The one so far is hidden, and not deleted.
     void setCornerWidget(QWidget *widget, Qt::Corner corner = Qt::TopRightCorner);
-    /// QTabWidget::removeTab(): takes the tab away and leaves its page to the caller.
+    /// QTabWidget::removeTab(): takes the tab away and leaves its page to the caller. An index
+    /// without a tab is ignored.
     void removeTab(int index);
 
     /// Adds an empty page, makes it current and raises index() by one. The tab's name is
@@ -84,7 +86,8 @@ public:
 
     /// How many tables addTable() has added (default 0). \see setIndex()
     int index() const;
-    /// Sets the count that notifyAddTable() reports and addTable() counts on from. \see index()
+    /// Sets the count, any number, that notifyAddTable() reports and addTable() counts on from.
+    /// \see index()
     void setIndex(int index);
 
     /// What the names of added tables begin with. \see setTitleText()
@@ -109,7 +112,8 @@ public:
     /// The layout of the page that was wrapped last, null if there is none or it is gone.
     /// \see setMainLayout()
     QVBoxLayout *mainLayout() const;
-    /// Makes \a layout the one that mainLayout() returns; it is not installed. \see mainLayout()
+    /// Makes \a layout, null for none, the one that mainLayout() returns; it is not installed and
+    /// not taken over. \see mainLayout()
     void setMainLayout(QVBoxLayout *layout);
 
     /// The background of the pages (default 69,69,69). \see setTabWorkSpaceColor()

@@ -29,9 +29,10 @@ public:
     /// Builds an empty bar, owned by \a parent.
     explicit ToolBarEx(QWidget *parent = nullptr);
 
-    /// Fixes \a button to 30 x 30 pixels and puts it behind the others at \a position.
+    /// Fixes \a button to 30 x 30 pixels and adds it as addWidget() does.
     void addButton(ToolButtonEx *button, ToolBarPosition position);
-    /// Puts \a widget, as it is, behind the others at \a position.
+    /// Puts \a widget, as it is, behind the others at \a position. A widget that is ignored keeps
+    /// its parent.
     void addWidget(QWidget *widget, ToolBarPosition position);
     /// Puts a thin vertical line behind the others at the left.
     void addSeparator();

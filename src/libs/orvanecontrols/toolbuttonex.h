@@ -42,7 +42,8 @@ struct CommandLook;
  * a receiver in the same process. Any button can be made a sender, whose drag carries a text.
  *
  * The signals that carry a record are direct only: StructCabinet is not registered with Qt's
- * meta-type system. Sizes are pixels; any value is written into a sheet as it is.
+ * meta-type system. The button may be deleted in its own signals. Sizes are pixels; any value is
+ * written into a sheet as it is.
  */
 class ORVANECONTROLS_EXPORT ToolButtonEx : public QToolButton
 {
@@ -50,13 +51,13 @@ class ORVANECONTROLS_EXPORT ToolButtonEx : public QToolButton
 
 public:
     /// Builds a button of \a type, owned by \a parent. The texts are those of the top-to-bottom
-    /// look.
+    /// look. Any other type is kept and looks as DefaultType.
     ToolButtonEx(QWidget *parent, ButtonType type, QString upText, QString downText);
     ~ToolButtonEx() override;
 
     /// Builds what a button of \a type consists of, gives that look its defaults and applies its
     /// sheet; the type stays. The constructor calls it. Labels are built only into a button that
-    /// has no layout yet.
+    /// has no layout yet. Any other type does nothing.
     void createButtonByType(ButtonType type);
     /// Stores the type. The two command types also get their default colours and their sheet; for
     /// any other, neither children nor sheet change.
@@ -86,17 +87,18 @@ public:
     /// Applies the right label's sheet: pressed colour while the button is pressed, else normal.
     void setRightLabelStyle();
     /// Stores both picture paths and shows the one of the present state, if there is a left label.
+    /// A path without a picture shows none.
     void setLeftLabelStyle(QString normalPath, QString pressedPath);
     /// Gives the left label, if there is one, \a sheet as its whole sheet.
     void setLeftLabelImg(QString sheet);
     /// Shows or hides the smaller text of the left-to-right look (hidden at first).
     void setRightBottomLableVisible(bool visible);
-    /// The label of the left-to-right look's picture, null on other looks.
+    /// The label of the left-to-right look's picture, null on other looks and once it is deleted.
     QLabel *pLabelLeft() const;
     /// Puts \a label in the place of pLabelLeft(): the setters then reach that one. Neither label
     /// changes its parent or its place, and null is taken.
     void setPLabelLeft(QLabel *label);
-    /// The label of the left-to-right look's text, null on other looks.
+    /// The label of the left-to-right look's text, null on other looks and once it is deleted.
     LabelEx *pLabelRight() const;
     /// Puts \a label in the place of pLabelRight(), as setPLabelLeft() does.
     void setPLabelRight(LabelEx *label);
@@ -179,7 +181,8 @@ public:
     void setLeftToRightBorderRadius(int radius);
     /// The radius of the corners.
     int leftToRightBorderRadius() const;
-    /// Sets the gap between picture and texts in pixels (default 5).
+    /// Sets the gap between picture and texts in pixels (default 5); a negative one stands for the
+    /// style's.
     void setLeftToRightLayoutSpace(const int &space);
     /// The gap between picture and texts.
     int leftToRightLayoutSpace() const;
@@ -266,23 +269,25 @@ public:
     int getNoActivatedLeftPadding() const;
 
     // Cabinet kinds.
-    /// Sets the model's width; a value outside 1 to 65536 becomes the nearest of them.
+    /// Sets the model's width in pixels of the wall; a value outside 1 to 65536 becomes the nearest
+    /// of them.
     void setCabinetWidth(int width);
     /// The model's width, 0 until set.
     int cabinetWidth() const;
-    /// Sets the model's height; a value outside 1 to 65536 becomes the nearest of them.
+    /// Sets the model's height in pixels of the wall; a value outside 1 to 65536 becomes the
+    /// nearest of them.
     void setCabinetHeight(int height);
     /// The model's height, 0 until set.
     int cabinetHeight() const;
-    /// Sets width and height; on a CabinetModelType button also the tool tip, to the cabinet name,
-    /// "_" and the size as given.
+    /// Sets width and height as the two functions above do; on a CabinetModelType button also the
+    /// tool tip, to the cabinet name, "_" and the size as given.
     void setCabinetSize(int width, int height);
     /// Sets the count on hand, unless \a count is negative, and enables the button exactly when the
     /// count is above 0.
     void setCabinetCount(int count);
     /// The count on hand.
     int cabinetCount() const;
-    /// Sets the count that the host began with (-1 until set).
+    /// Keeps the count, any number, that the host began with (-1 until set).
     void setCabinetInitCount(int count);
     /// The count that the host began with (-1 until set).
     int getCabinetInitCount() const;
@@ -303,27 +308,27 @@ public:
     QString getCabinetName() const;
     /// The cabinet's name.
     QString cabinetName() const;
-    /// Sets the drawing width in the host's layout view (default 50).
+    /// Sets the drawing width in the host's layout view in pixels (default 50).
     void setCabinetuisize(int size);
     /// The drawing width in the host's layout view (default 50).
     int getCabinetuisize() const;
-    /// Sets the drawing height in the host's layout view (default 50).
+    /// Sets the drawing height in the host's layout view in pixels (default 50).
     void setCabinetuiHsize(int size);
     /// The drawing height in the host's layout view (default 50).
     int getCabinetuiHsize() const;
-    /// Sets the weight (default 5).
+    /// Sets the weight in the host's unit (default 5); any number is kept.
     void setCabinetweight(int weight);
     /// The weight (default 5).
     int getCabinetweight() const;
-    /// Sets the power (default 0.01).
+    /// Sets the power in the host's unit (default 0.01); any number is kept.
     void setCabinetpower(float power);
     /// The power (default 0.01).
     float getCabinetpower() const;
-    /// Sets the voltage (default 0.01).
+    /// Sets the voltage in the host's unit (default 0.01); any number is kept.
     void setCabinetVoltage(float voltage);
     /// The voltage (default 0.01).
     float getCabinetVoltage() const;
-    /// Sets the pixel pitch (default 1).
+    /// Sets the pixel pitch in the host's unit (default 1); any number is kept.
     void setCabinetPointspace(int pointSpace);
     /// The pixel pitch (default 1).
     int getCabinetPointspace() const;

@@ -23,7 +23,8 @@ class ORVANECONTROLS_EXPORT TreeItem : public QWidget
     Q_OBJECT
 
 public:
-    /// Builds a row for the model \a name of \a size, owned by \a parent.
+    /// Builds a row for the model \a name of \a size in pixels of the wall, owned by \a parent. Any
+    /// size is shown as it is.
     TreeItem(QString name, QSize size, QWidget *parent = nullptr);
 
     /// Sets the style sheet of the name. A null text is ignored; an empty one clears the sheet.
@@ -40,7 +41,7 @@ public:
 
     /// The host's object, null until set and once it is deleted. \see setObject()
     QObject *getObject() const;
-    /// Attaches an object of the host's, which goes on owning it. \see getObject()
+    /// Attaches an object of the host's, which goes on owning it; null for none. \see getObject()
     void setObject(QObject *object);
 
 protected:

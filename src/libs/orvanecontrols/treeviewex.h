@@ -23,9 +23,9 @@ public:
     /// Builds an empty tree without a header, owned by \a parent.
     explicit TreeViewEx(QWidget *parent = nullptr);
 
-    /// Adds a row for the model \a name of \a size at the end of \a parentItem. The row has the
-    /// check state \a state and carries \a object, which stays the host's. Its TreeItem is the
-    /// itemWidget() of column 0.
+    /// Adds a row for the model \a name of \a size in pixels of the wall at the end of
+    /// \a parentItem. The row has the check state \a state and carries \a object, which stays the
+    /// host's and may be null. Its TreeItem is the itemWidget() of column 0.
     ///
     /// The only column keeps at least the width that the tree has now, less 30 pixels, until the
     /// next row is added: give the tree its width first, or it scrolls sideways once it is

@@ -27,9 +27,10 @@ public:
     explicit WidgetBoard(QWidget *parent = nullptr);
     ~WidgetBoard() override;
 
-    /// Shows \a widget in the panel, which owns it from now on. \see ShapeWidget::addWidget()
+    /// Shows \a widget in the panel, which owns it from now on and deletes the one so far. A null
+    /// pointer is ignored. \see ShapeWidget::addWidget()
     void addWidget(QWidget *widget);
-    /// The drop-down button.
+    /// The drop-down button, which the popup owns.
     QToolButton *dropDownBtn() const;
 
     /// Shows or hides the panel.
@@ -41,12 +42,13 @@ public:
     /// Whether the drop-down button is seen. \see setDropButoonVisible()
     bool dropDownButtonVisible() const;
 
-    /// Moves the drop-down button to \a pos inside the popup.
+    /// Moves the drop-down button to \a pos, in pixels inside the popup.
     void setDropDownBtnPos(QPoint pos);
     /// Moves the panel's arrow. \see ShapeWidget::setTriggleBtnPos()
     void setTriggleBtnPos(QPoint pos);
 
-    /// Sets the recorded width of the arrow; nothing is resized. \see triggleBtnWidth()
+    /// Sets the recorded width of the arrow in pixels, any number; nothing is resized. The same
+    /// holds for the three functions of its kind below. \see triggleBtnWidth()
     void setTriggleBtnWidth(int width);
     /// The recorded width of the arrow, 20 at first. \see setTriggleBtnWidth()
     int triggleBtnWidth() const;
@@ -65,7 +67,8 @@ public:
     int dropDownBtnHeight() const;
 
 Q_SIGNALS:
-    /// The drop-down button was clicked; the panel is to be shown or hidden, as the flag says.
+    /// The drop-down button was clicked; the panel is to be shown or hidden, as the flag says. The
+    /// popup may be deleted here.
     void sigClickedDropDownBtn(bool shapeWidgetVisible);
 
 public Q_SLOTS:

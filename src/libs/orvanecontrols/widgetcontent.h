@@ -22,7 +22,7 @@ public:
     explicit WidgetContent(QWidget *parent = nullptr);
 
     /// Puts \a widget at the end of the row, behind the stretch that follows the buttons. It does
-    /// not become one of lsWidget().
+    /// not become one of lsWidget(). The row owns it from now on; a null pointer is ignored.
     void addItem(QWidget *widget);
     /// Takes the widget at \a index out of lsWidget(), if there is one; it stays in the row.
     void removeItem(int index);
@@ -30,14 +30,15 @@ public:
     void removeAll();
 
     /// Appends the widgets of \a list to the row, which owns them from now on. Each is to have a
-    /// signal clicked(). With an empty list the row becomes fixed at 10 by 10 pixels, until there
-    /// is another list. \see lsWidget()
+    /// signal clicked(); of one without Qt warns. Null pointers are left out. With an empty list
+    /// the row becomes fixed at 10 by 10 pixels, until there is another list. \see lsWidget()
     void setLsWidget(const QList<QWidget *> &list);
     /// The widgets last set that still exist and were not removed. \see setLsWidget()
     QList<QWidget *> lsWidget() const;
 
 Q_SIGNALS:
-    /// One of the row's buttons was clicked: a panel that shows them all should hide.
+    /// One of the row's buttons was clicked: a panel that shows them all should hide. The row may
+    /// be deleted here.
     void notifyShpeWidgetHide();
 
 public Q_SLOTS:

@@ -28,7 +28,7 @@ struct WidgetInfo;
  * the focus.
  *
  * The board owns the buttons that it is given. A list that replaces another deletes those buttons
- * of the earlier one that are not in it.
+ * of the earlier one that are not in it. The board may be deleted in its own signals.
  *
  * \code
  * auto *board = new WidgetControllBoard(window);
@@ -48,7 +48,7 @@ public:
 
     /// Fills the strip with the widgets of \a list and the popup with copies of them, in place of
     /// those so far. Each widget is to have a signal clicked(), and the size that its copy is to
-    /// have. A copy is
+    /// have. Null pointers are left out. A copy is
     /// - a tool button of the kind CabinetModelType after setIsAddCabient(true), with the style
     ///   sheet, the cabinet size, the size and the tool tip of its source;
     /// - otherwise a plain tool button with the style sheet, the size and the tool tip;
@@ -59,7 +59,8 @@ public:
     /// The strip's widgets that still exist. \see setLsWidget()
     QList<QWidget *> lsWidget() const;
     /// Appends a picture button of 40 by 40 pixels to the strip, which is filled anew. \a info is
-    /// read and not kept.
+    /// read, not kept, and stays the caller's; null is ignored. A path without a picture gives a
+    /// button that shows none.
     void addWidgetContent(WidgetInfo *info);
     /// Deletes the buttons of the strip and their copies, and hides the arrows.
     void removeAllWidget();

@@ -37,7 +37,8 @@ public:
     explicit WidgetWithScrollEx(QWidget *parent = nullptr);
     ~WidgetWithScrollEx() override;
 
-    /// Creates the arrows and their placeholders. The constructor calls it.
+    /// Creates the arrows and their placeholders. The constructor calls it; another call lays new
+    /// ones over them.
     void createScrollButton();
     /// Follows the scroll range, takes over the scroll position, sets the step to 74 and hides both
     /// arrows. The constructor calls it.
@@ -65,7 +66,7 @@ public:
     int scrollSingleStepValue() const;
 
 public Q_SLOTS:
-    /// Takes note of the range that the arrows scroll in; the content's scroll bar reports it.
+    /// Takes note of the range in pixels that the arrows scroll in; its scroll bar reports it.
     void on_rangChanged(int min, int max);
     /// Scrolls a step to the left and brings the right arrow; the last step hides the left one.
     void on_leftClicked();

@@ -65,12 +65,15 @@ public:
                 QWidget *parent = nullptr, Qt::WindowFlags flags = Qt::WindowFlags());
     ~WindowFrame() override;
 
-    /// Records the current size; rebuildUI() applies it. Hover and drags go by it at once.
+    /// Records the current size in pixels; rebuildUI() applies it. Hover and drags go by it at
+    /// once. Any size is recorded, here and in the next two; one that no widget can have is applied
+    /// as the nearest.
     void SetFrameCurSize(const QSizeF &size);
-    /// Records the maximum size, which slot_showMaximized() applies the next time it maximises.
+    /// Records the maximum size in pixels, which slot_showMaximized() applies the next time it
+    /// maximises.
     void SetFrameMaxSize(const QSizeF &size);
-    /// Records the smallest size, a limit of GetNewWindowRect(). The size that the frame is
-    /// restored to stays.
+    /// Records the smallest size in pixels, a limit of GetNewWindowRect(). The size that the frame
+    /// is restored to stays.
     void SetFrameMinSize(const QSizeF &size);
     /// Fixes the frame to its current size and fits the title to it.
     void rebuildUI();

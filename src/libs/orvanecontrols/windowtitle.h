@@ -27,6 +27,9 @@ class QPushButton;
  * title's top-left corner, the text over the picture. A host that shows both sets their geometry
  * itself. The construction makes Qt print two warnings about the layout that the labels do not get;
  * they can be ignored.
+ *
+ * A size that no widget can have becomes the nearest one. The title may be deleted in its own
+ * signals.
  */
 class ORVANECONTROLS_EXPORT WindowTitle : public QFrame
 {
@@ -49,7 +52,8 @@ public:
 
     /// Gives the logo picture the fixed size \a size in pixels, 23 by 18 at first.
     void SetLogoImageSize(const QSize &size);
-    /// Shows the picture of \a path, a file or a resource, stretched over the logo picture's size.
+    /// Shows the picture of \a path, a file or a resource, stretched over the logo picture's size;
+    /// none if there is no such picture.
     void SetLogoImagePath(const QString &path);
     /// Gives the logo text the fixed size \a size in pixels, 100 by 18 at first.
     void SetLogoTextSize(const QSize &size);

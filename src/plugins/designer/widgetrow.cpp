@@ -123,7 +123,7 @@ void addBasicControls(QVector<WidgetRow> &rows)
     group.add<SliderEx>({160, 24}, "A slider that leaves the mouse wheel alone",
                         "A vertical one needs a constructor of its own",
                         BUILT_AS(SliderEx(parent, Qt::Horizontal)));
-    group.add<SliderExMouse>({160, 24}, "A slider whose handle goes to where it is pressed",
+    group.add<SliderExMouse>({160, 24}, "A slider that goes to where the button is released",
                              "A vertical one needs a constructor of its own",
                              BUILT_AS(SliderExMouse(parent, Qt::Horizontal)));
     group.add<ComboBoxEx>({120, 26}, "A drop-down of texts, or of images with texts",
