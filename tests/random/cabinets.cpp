@@ -81,7 +81,7 @@ Entry toolButtonEx()
         .call(NAMED(ToolButtonEx, leftToRightPressedBgColor))
         .call(NAMED(ToolButtonEx, setLeftToRightBorderRadius))
         .call(NAMED(ToolButtonEx, leftToRightBorderRadius))
-        .call(NAMED(ToolButtonEx, setLeftToRightLayoutSpace))
+        .space(NAMED(ToolButtonEx, setLeftToRightLayoutSpace))
         .call(NAMED(ToolButtonEx, leftToRightLayoutSpace))
         .call(NAMED(ToolButtonEx, setActivatedNormalBgColor))
         .call(NAMED(ToolButtonEx, activatedNormalBgColor))
@@ -180,7 +180,7 @@ Entry mutexButtonEx()
         .call(NAMED(MutexButtonEx, addButton), Again::Grows)
         .call(NAMED(MutexButtonEx, setButtonWidth))
         .call(NAMED(MutexButtonEx, setButtonHeight))
-        .call(NAMED(MutexButtonEx, setButtonSpace));
+        .space(NAMED(MutexButtonEx, setButtonSpace));
 }
 
 Entry toolBarEx()

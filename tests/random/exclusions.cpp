@@ -31,7 +31,6 @@ const QVector<Exclusion> &members()
         {"QTableWidget", "removeRow", "Qt overflows at the end of int; a table calls it with few"},
         {"QTableWidget", "removeColumn", "Qt overflows as for rows; a table calls it with few"},
         {"QListView", "batchSize", "a warning of Qt's for what is not positive"},
-        {"Drawer", "setPVBoxlayout", "Qt's layouts in no widget keep deleted ones; it gets others"},
         {"QTreeWidget", "columnCount", "Qt keeps every section; the tree has the one it needs"},
         {"QTabBar", "currentIndex", "the tables call the class's own setCurrentIndex()"},
     };
@@ -53,9 +52,17 @@ const QVector<Exclusion> &callersErrors()
 {
     static const QVector<Exclusion> all{
         {"ComboBoxEx", "setWidgetItemList", "with items whose list is gone: the box looks them up"},
+        {"Drawer", "setPVBoxlayout", "with a layout in no widget: Qt's keep deleted items there"},
+        {"MutexButtonEx", "setButtonSpace", "with huge numbers: Qt's layouts overflow by them"},
+        {"NQTabBar", "setCenterHLayoutSpace", "with huge numbers, as for buttons"},
+        {"NQTabBar", "setLeftHLayoutSpace", "with huge numbers, as for buttons"},
+        {"NQTabBar", "setRightHLayoutSpace", "with huge numbers, as for buttons"},
         {"NQTabBar", "setTabButton", "with a widget that is deleted later: Qt does not watch it"},
+        {"NQToolButton", "setTopToBottomBtnVlayoutMargins", "with huge numbers, as for buttons"},
+        {"NQToolButton", "setTopToBottomBtnVlayoutSpace", "with huge numbers, as for buttons"},
         {"ScrollBarEx", "ScrollBarEx", "of a null pointer, or of a bar that goes first"},
         {"ShapeWidgetContent", "setLsWidget", "with widgets without a signal clicked()"},
+        {"ToolButtonEx", "setLeftToRightLayoutSpace", "with huge numbers, as for buttons"},
         {"WidgetContent", "setLsWidget", "with widgets without a signal clicked()"},
         {"WidgetControllBoard", "setLsWidget", "with widgets without a signal clicked()"},
         {"WindowFrame", "WindowFrame", "of a parent alone: it has nothing to show or to size"},

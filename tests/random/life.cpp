@@ -56,6 +56,14 @@ int Life::small()
     return number;
 }
 
+int Life::space()
+{
+    constexpr int most = 10000;
+    const int number = m_dice.chance(80) ? smallNumber(m_dice) : m_dice.between(-most, most);
+    protocol::note(toText(number));
+    return number;
+}
+
 int Life::index(int count)
 {
     const int number = nearIndex(m_dice, count);

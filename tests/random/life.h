@@ -47,6 +47,8 @@ public:
         return result;
     }
     int small();
+    /// For a layout: odd, but no more than a few screens.
+    int space();
     int index(int count);
 
     /// A new widget of one of Qt's classes.

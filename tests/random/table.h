@@ -55,6 +55,16 @@ public:
     {
         return addCall<Arguments...>(name, function, Again::Settles);
     }
+    /// A member function whose numbers go to a layout of Qt's, which overflows by huge ones.
+    template <class Class, class... Numbers>
+    Table &space(const char *name, void (Class::*function)(Numbers...))
+    {
+        return act(name, [function](Life &life, T *subject) {
+            // Braces: the numbers are made in the order in which they stand.
+            std::tuple<Numbers...> numbers{Numbers(life.space())...};
+            std::apply([&](auto &...number) { (subject->*function)(number...); }, numbers);
+        });
+    }
     /// What takes more than values: a call of the function \a name as \a run makes it.
     Table &act(const char *name, std::function<void(Life &, T *)> run, Again again = Again::Settles)
     {
