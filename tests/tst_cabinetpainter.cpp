@@ -158,7 +158,7 @@ Look lookOf(const CabinetFace &face)
 {
     QImage image = evenImage();
     const ButtonPainter painter(&image);
-    return orvane::lookOf(face, painter, orvane::groundUnder(painter, face.area));
+    return orvane::lookOf(face, painter, {&image, buttonPlace, 1});
 }
 
 void forgetPictures()
@@ -221,27 +221,31 @@ private Q_SLOTS:
     void groundIsEvenInOneOpaqueColor_data()
     {
         QTest::addColumn<QColor>("color");
-        QTest::addColumn<QPoint>("otherPixel");
+        QTest::addColumn<QRect>("otherPixels");
         QTest::addColumn<bool>("expected");
         const QColor opaque(69, 69, 69);
-        // The area is the rectangle from (3, 2) to (9, 6).
-        QTest::newRow("even") << opaque << QPoint(0, 0) << true;
-        QTest::newRow("first pixel") << opaque << QPoint(3, 2) << false;
-        QTest::newRow("second pixel") << opaque << QPoint(4, 2) << false;
-        QTest::newRow("end of the first line") << opaque << QPoint(9, 2) << false;
-        QTest::newRow("start of the second line") << opaque << QPoint(3, 3) << false;
-        QTest::newRow("end of a line") << opaque << QPoint(9, 4) << false;
-        QTest::newRow("start of the last line") << opaque << QPoint(3, 6) << false;
-        QTest::newRow("end of the last line") << opaque << QPoint(9, 6) << false;
-        QTest::newRow("almost opaque") << QColor(69, 69, 69, 254) << QPoint(0, 0) << false;
-        QTest::newRow("half transparent") << QColor(69, 69, 69, 128) << QPoint(0, 0) << false;
-        QTest::newRow("transparent") << QColor(0, 0, 0, 0) << QPoint(0, 0) << false;
+        const QRect none;
+        // The area reaches from (3, 2) to (9, 6).
+        QTest::newRow("even") << opaque << none << true;
+        QTest::newRow("first pixel") << opaque << QRect(3, 2, 1, 1) << false;
+        QTest::newRow("end of the first line") << opaque << QRect(9, 2, 1, 1) << false;
+        QTest::newRow("start of the second line") << opaque << QRect(3, 3, 1, 1) << false;
+        QTest::newRow("end of a line") << opaque << QRect(9, 4, 1, 1) << false;
+        QTest::newRow("start of the last line") << opaque << QRect(3, 6, 1, 1) << false;
+        QTest::newRow("end of the last line") << opaque << QRect(9, 6, 1, 1) << false;
+        QTest::newRow("first line") << opaque << QRect(3, 2, 7, 1) << false;
+        QTest::newRow("last line") << opaque << QRect(3, 6, 7, 1) << false;
+        QTest::newRow("first column") << opaque << QRect(3, 2, 1, 5) << false;
+        QTest::newRow("last column") << opaque << QRect(9, 2, 1, 5) << false;
+        QTest::newRow("almost opaque") << QColor(69, 69, 69, 254) << none << false;
+        QTest::newRow("half transparent") << QColor(69, 69, 69, 128) << none << false;
+        QTest::newRow("transparent") << QColor(0, 0, 0, 0) << none << false;
     }
 
     void groundIsEvenInOneOpaqueColor()
     {
         QFETCH(QColor, color);
-        QFETCH(QPoint, otherPixel);
+        QFETCH(QRect, otherPixels);
         QFETCH(bool, expected);
         QImage image(13, 9, QImage::Format_ARGB32_Premultiplied);
         image.fill(Qt::red); // around the area
@@ -249,8 +253,8 @@ private Q_SLOTS:
         QPainter painter(&image);
         painter.setCompositionMode(QPainter::CompositionMode_Source);
         painter.fillRect(area, color);
+        painter.fillRect(otherPixels, Qt::blue);
         painter.end();
-        image.setPixelColor(otherPixel, Qt::blue);
         QCOMPARE(orvane::isEven(image, area), expected);
     }
 
@@ -431,8 +435,7 @@ private Q_SLOTS:
         font.setBold(true);
         painter.setFont(font);
 
-        const Look look =
-            orvane::lookOf(face(), painter, orvane::groundUnder(painter, QSize(80, 70)));
+        const Look look = orvane::lookOf(face(), painter, {&image, QRect(40, 30, 160, 140), 2});
         QCOMPARE(look.face.size, QSize(192, 108));
         QCOMPARE(look.face.count, 3);
         QCOMPARE(look.format, QImage::Format_ARGB32_Premultiplied);
@@ -630,8 +633,8 @@ private Q_SLOTS:
         forgetPictures();
         QImage image = evenImage(QSize(120, 100), ratio);
         ButtonPainter painter(&image);
-        const Look look =
-            orvane::lookOf(face(), painter, orvane::groundUnder(painter, QSize(80, 70)));
+        const QRect place(20 * ratio, 15 * ratio, 80 * ratio, 70 * ratio);
+        const Look look = orvane::lookOf(face(), painter, {&image, place, ratio});
         auto *picture = new QImage(QSize(80, 70) * ratio, QImage::Format_RGB32);
         picture->setDevicePixelRatio(ratio);
         picture->fill(Qt::red);
@@ -641,11 +644,11 @@ private Q_SLOTS:
         painter.end();
 
         QImage expected = evenImage(QSize(120, 100), ratio);
-        for (int y = 15 * ratio; y < 85 * ratio; ++y) {
-            for (int x = 20 * ratio; x < 100 * ratio; ++x)
+        for (int y = place.top(); y <= place.bottom(); ++y) {
+            for (int x = place.left(); x <= place.right(); ++x)
                 expected.setPixel(x, y, qRgb(255, 0, 0));
         }
-        expected.setPixel(20 * ratio, 15 * ratio, qRgb(0, 0, 255));
+        expected.setPixel(place.topLeft(), qRgb(0, 0, 255));
         QCOMPARE(image, expected);
         QCOMPARE(Pictures::all().totalCost(), 1); // nothing was kept in its place
     }
