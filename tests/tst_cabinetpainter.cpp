@@ -55,21 +55,23 @@ QImage evenImage(QSize size = QSize(120, 100), int ratio = 1,
     return image;
 }
 
-/// A painter such as a button at a place of a window has: it starts there, and reaches no further.
+/// A painter such as a button at a place of a window has, enlarged by \a scale: it starts there,
+/// and reaches no further.
 class ButtonPainter : public QPainter
 {
 public:
-    explicit ButtonPainter(QImage *image, const QRect &place = buttonPlace)
-        : QPainter(limited(image, place))
+    explicit ButtonPainter(QImage *image, const QRect &place = buttonPlace, int scale = 1)
+        : QPainter(limited(image, place, scale))
     {
+        this->scale(scale, scale);
         translate(place.topLeft());
         setFont(buttonFont());
     }
 
 private:
-    static QImage *limited(QImage *image, const QRect &place)
+    static QImage *limited(QImage *image, const QRect &place, int scale)
     {
-        const int ratio = qRound(image->devicePixelRatio());
+        const int ratio = qRound(image->devicePixelRatio()) * scale;
         image->detach(); // or painting would do so, and take another engine
         image->paintEngine()->setSystemClip(QRect(place.topLeft() * ratio, place.size() * ratio));
         return image;
@@ -557,6 +559,10 @@ private Q_SLOTS:
         expected.setPixel(5, 7, qRgb(0, 255, 0));
         QCOMPARE(picture.format(), QImage::Format_RGB32);
         QCOMPARE(picture, expected);
+
+        // Where the painter enlarges, and not the device
+        image.setDevicePixelRatio(1);
+        QCOMPARE(orvane::pictureOf({&image, QRect(4, 6, 6, 8), 2}), expected);
     }
 
     void cabinetIsPaintedAlikeFirstAndLater_data()
@@ -618,6 +624,23 @@ private Q_SLOTS:
         expected.setPixel(corner, qRgb(1, 2, 3));
         QCOMPARE(painted(image, face, buttonPlace, direction), expected);
         QCOMPARE(Pictures::all().size(), 0);
+    }
+
+    void cabinetOfAnEnlargingPainterIsPaintedAlikeFirstAndLater()
+    {
+        forgetPictures();
+        const auto enlarged = [] {
+            QImage image = evenImage(QSize(240, 200));
+            ButtonPainter painter(&image, buttonPlace, 2);
+            orvane::paintCabinet(painter, face());
+            painter.end();
+            return image;
+        };
+        const QImage first = enlarged();
+        QVERIFY(first != evenImage(QSize(240, 200)));
+        QCOMPARE(Pictures::all().totalCost(), 80 * 70 * 4 * 2 * 2);
+        QCOMPARE(enlarged(), first);
+        QCOMPARE(Pictures::all().size(), 1);
     }
 
     void keptPictureIsCopiedToItsPlace_data()
