@@ -205,6 +205,33 @@ private Q_SLOTS:
         second->~QWidget();
     }
 
+    void sheetOfAWidgetThatAskedUnderAnotherOneIsNotInherited()
+    {
+        // With the last sheet in force Qt drops how it learns of deaths, but not the widget's mark.
+        alignas(QWidget) unsigned char storage[sizeof(QWidget)];
+        auto *first = new (storage) QWidget;
+        {
+            QWidget parent;
+            orvane::applyStyleSheet(&parent, "QWidget{color:#ff0000;}");
+            first->setParent(&parent);
+            first->style()->styleHint(QStyle::SH_EtchDisabledText, nullptr, first);
+            first->setParent(nullptr);
+        }
+        QWidget other; // as long as any sheet is in force, Qt keeps what it has parsed
+        orvane::applyStyleSheet(&other, "QWidget{color:#ff0000;}");
+        orvane::applyStyleSheet(first, "QLabel{background:#ff0000;}");
+        auto *label = new QLabel(first);
+        label->style()->styleHint(QStyle::SH_EtchDisabledText, nullptr, label);
+        first->~QWidget();
+
+        QWidget *second = newContainer(storage, {"QLabel{background:#00ff00;}"});
+        label = second->findChild<QLabel *>();
+        label->ensurePolished(); // before its parent, whose being made ready clears up
+        QVERIFY(pointer::showAndWait(second));
+        QCOMPARE(pointer::colorAt(label, QPoint(20, 20)), QColor(0, 255, 0));
+        second->~QWidget();
+    }
+
     void equalSheetIsNotAppliedAgain()
     {
         struct Counter : QWidget {
