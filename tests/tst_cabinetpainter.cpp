@@ -175,6 +175,15 @@ class TestCabinetPainter : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
+    void faceIsAnEmptyButtonAtFirst()
+    {
+        const CabinetFace face{};
+        QVERIFY(!face.isModel);
+        QVERIFY(face.size.isEmpty());
+        QCOMPARE(face.count, 0);
+        QVERIFY(!face.hasCount);
+    }
+
     void sizeIsShownAsWidthAndHeight_data()
     {
         QTest::addColumn<QSize>("size");
