@@ -61,7 +61,7 @@ public:
     {
         return act(name, [function](Life &life, T *subject) {
             // Braces: the numbers are made in the order in which they stand.
-            std::tuple<Numbers...> numbers{Numbers(life.space())...};
+            std::tuple<std::decay_t<Numbers>...> numbers{std::decay_t<Numbers>(life.space())...};
             std::apply([&](auto &...number) { (subject->*function)(number...); }, numbers);
         });
     }
