@@ -38,7 +38,11 @@ Entry shapeWidget()
         .call(NAMED(ShapeWidget, initStyle))
         .call(NAMED(ShapeWidget, setScrollBarStyle))
         .call(NAMED(ShapeWidget, addWidget), Again::Grows)
-        .call(NAMED(ShapeWidget, setTriggleBtnPos))
+        .act("setTriggleBtnPos",
+             [](Life &life, ShapeWidget *subject) {
+                 const int x = life.space();
+                 subject->setTriggleBtnPos({x, life.space()});
+             })
         .call(NAMED(ShapeWidget, setTriggleBtnWidth))
         .call(NAMED(ShapeWidget, triggleBtnWidth))
         .call(NAMED(ShapeWidget, setTriggleBtnHeight))

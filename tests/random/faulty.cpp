@@ -1,6 +1,7 @@
 #include "table.h"
 
 #include <csignal>
+#include <limits>
 #include <thread>
 
 namespace randomuse
@@ -18,6 +19,8 @@ void misbehave(const QByteArray &fault, QWidget *subject)
         qFatal("told to abort");
     else if (fault == "crash")
         std::raise(SIGSEGV);
+    else if (fault == "overflow")
+        subject->setProperty("overflow", std::numeric_limits<int>::max() + fault.size());
     else if (fault == "grow")
         new QWidget(subject);
     else if (fault == "hang")

@@ -12,6 +12,14 @@
 #include <sanitizer/common_interface_defs.h>
 #include <sanitizer/lsan_interface.h>
 #define RANDOMUSE_SANITIZED
+
+/// What is undefined ends in an abort, which is told here: the callback for dying programs is not
+/// called for it.
+extern "C" Q_DECL_EXPORT const char *__ubsan_default_options();
+extern "C" const char *__ubsan_default_options()
+{
+    return "abort_on_error=1:print_stacktrace=1";
+}
 #endif
 
 namespace randomuse::protocol
@@ -149,7 +157,7 @@ void watch()
 void install()
 {
 #ifdef RANDOMUSE_SANITIZED
-    // The sanitizers report faults themselves; an abort is left to the program.
+    // The address sanitizer reports faults itself; an abort is left to the program.
     __sanitizer_set_death_callback(printReported);
     std::signal(SIGABRT, printSignal);
 #else

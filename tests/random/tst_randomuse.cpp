@@ -330,7 +330,8 @@ int main(int argc, char **argv)
         {"replay", "Print each step when it begins."},
         {"list", "Print what is called, and take no steps."},
         {"excluded", "Print what is left out and why, and take no steps."},
-        {"fault", "What the class Faulty does at last: warn, abort, crash, grow, hang.", "name"},
+        {"fault", "What the class Faulty does at last: warn, abort, crash, overflow, grow, hang.",
+         "name"},
         {"patience", "After how many seconds a step counts as hanging.", "number"},
     });
     parser.process(application);
