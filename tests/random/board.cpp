@@ -38,11 +38,7 @@ Entry shapeWidget()
         .call(NAMED(ShapeWidget, initStyle))
         .call(NAMED(ShapeWidget, setScrollBarStyle))
         .call(NAMED(ShapeWidget, addWidget), Again::Grows)
-        .act("setTriggleBtnPos",
-             [](Life &life, ShapeWidget *subject) {
-                 const int x = life.space();
-                 subject->setTriggleBtnPos({x, life.space()});
-             })
+        .space(NAMED(ShapeWidget, setTriggleBtnPos))
         .call(NAMED(ShapeWidget, setTriggleBtnWidth))
         .call(NAMED(ShapeWidget, triggleBtnWidth))
         .call(NAMED(ShapeWidget, setTriggleBtnHeight))
@@ -71,8 +67,8 @@ Entry widgetBoard()
         .call(NAMED(WidgetBoard, shapeWidgetVisible))
         .call(NAMED(WidgetBoard, setDropButoonVisible))
         .call(NAMED(WidgetBoard, dropDownButtonVisible))
-        .call(NAMED(WidgetBoard, setDropDownBtnPos))
-        .call(NAMED(WidgetBoard, setTriggleBtnPos))
+        .space(NAMED(WidgetBoard, setDropDownBtnPos))
+        .space(NAMED(WidgetBoard, setTriggleBtnPos))
         .call(NAMED(WidgetBoard, setTriggleBtnWidth))
         .call(NAMED(WidgetBoard, triggleBtnWidth))
         .call(NAMED(WidgetBoard, setTriggleBtnHeight))

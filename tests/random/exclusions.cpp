@@ -64,6 +64,8 @@ const QVector<Exclusion> &callersErrors()
         {"ShapeWidget", "setTriggleBtnPos", "with huge numbers: Qt's rectangles overflow by them"},
         {"ShapeWidgetContent", "setLsWidget", "with widgets without a signal clicked()"},
         {"ToolButtonEx", "setLeftToRightLayoutSpace", "with huge numbers, as for buttons"},
+        {"WidgetBoard", "setDropDownBtnPos", "with huge numbers, as for ShapeWidget"},
+        {"WidgetBoard", "setTriggleBtnPos", "with huge numbers, as for ShapeWidget"},
         {"WidgetContent", "setLsWidget", "with widgets without a signal clicked()"},
         {"WidgetControllBoard", "setLsWidget", "with widgets without a signal clicked()"},
         {"WindowFrame", "WindowFrame", "of a parent alone: it has nothing to show or to size"},

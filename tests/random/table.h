@@ -65,6 +65,14 @@ public:
             std::apply([&](auto &...number) { (subject->*function)(number...); }, numbers);
         });
     }
+    /// A member function whose position goes to a widget of Qt's, which overflows by a huge one.
+    template <class Class> Table &space(const char *name, void (Class::*function)(QPoint))
+    {
+        return act(name, [function](Life &life, T *subject) {
+            const int x = life.space();
+            (subject->*function)({x, life.space()});
+        });
+    }
     /// What takes more than values: a call of the function \a name as \a run makes it.
     Table &act(const char *name, std::function<void(Life &, T *)> run, Again again = Again::Settles)
     {
