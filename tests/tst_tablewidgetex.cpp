@@ -6,6 +6,8 @@
 
 #include <tablewidgetex.h>
 
+#include <limits>
+
 namespace
 {
 
@@ -745,6 +747,15 @@ private Q_SLOTS:
         tabs.setTabsClosable(false);
         tabs.setTabText(0, text);
         QCOMPARE(tabs.tabToolTip(0), text);
+    }
+
+    void theLeastPanelWidthIsTooShort()
+    {
+        TableWidgetEx tabs(nullptr, EditableTable, "T");
+        tabs.addTable(true);
+        tabs.setTabPanelWidth(std::numeric_limits<int>::min());
+        tabs.setTabText(0, "A");
+        QCOMPARE(tabs.tabToolTip(0), QString("A"));
     }
 
     void aTabTextWithoutATabIsIgnored()

@@ -176,10 +176,13 @@ int TableWidgetEx::customAddTab(const QString &text)
 
 void TableWidgetEx::setTabText(int index, const QString &text)
 {
-    int room = m_tabPanelWidth - (m_isClosable ? closeButtonRoom : 0);
-    if (tabPosition() == QTabWidget::West)
-        room = m_tabPanelHeight;
-    setTabToolTip(index, QFontMetrics(font()).horizontalAdvance(text) > room ? text : QString());
+    int needed = QFontMetrics(font()).horizontalAdvance(text);
+    int room = m_tabPanelHeight;
+    if (tabPosition() != QTabWidget::West) {
+        needed += m_isClosable ? closeButtonRoom : 0;
+        room = m_tabPanelWidth;
+    }
+    setTabToolTip(index, needed > room ? text : QString());
     QTabWidget::setTabText(index, text);
 }
 
