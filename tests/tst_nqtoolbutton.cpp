@@ -673,6 +673,19 @@ private Q_SLOTS:
         QVERIFY(late.getLabelRight());
     }
 
+    void anotherKindIgnoresLabelsThatAreBuiltLater()
+    {
+        NQToolButton button(nullptr, static_cast<ToolButtonType>(2));
+        button.createButtonByType(ImageAboveCaption);
+        QCOMPARE(labels(button).size(), 2);
+        const QString before = picture(button)->styleSheet();
+        button.setUpLabelImg(":/normal.png", ":/disabled.png"); // it is no picture above a caption
+        QCOMPARE(picture(button)->styleSheet(), before);
+        button.setStrDownText("caption");
+        QCOMPARE(caption(button)->text(), QString());
+        QCOMPARE(button.strDownText(), QString("caption"));
+    }
+
     void groundFollowsTheState_data()
     {
         QTest::addColumn<int>("kind");
