@@ -47,7 +47,7 @@ public:
         return result;
     }
     int small();
-    /// For a layout: odd, but no more than a few screens.
+    /// For a layout or a position: odd, but no more than a few screens.
     int space();
     int index(int count);
 
